@@ -1,0 +1,21 @@
+#pragma once
+
+#include "base/Date.hpp"
+
+#include <string>
+
+namespace kestrelfen {
+
+/// Times of day as the person writes them, in the person's zone.
+class TimeFormat {
+  public:
+    virtual ~TimeFormat() = default;
+
+    /// Hours and minutes.
+    virtual std::string shortTime(Date date) const = 0;
+
+    /// Hours, minutes and seconds.
+    virtual std::string timeWithSeconds(Date date) const = 0;
+};
+
+} // namespace kestrelfen
