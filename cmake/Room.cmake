@@ -4,6 +4,10 @@ add_library(kestrelfen_options INTERFACE)
 target_compile_options(kestrelfen_options INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wold-style-cast -Wnon-virtual-dtor
     $<$<BOOL:${KESTRELFEN_WERROR}>:-Werror>)
+# GCC 12 sees overlaps in the standard library's own string code where there are none.
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+    target_compile_options(kestrelfen_options INTERFACE -Wno-restrict)
+endif()
 if(KESTRELFEN_SANITIZE)
     target_compile_options(kestrelfen_options INTERFACE
         -fsanitize=${KESTRELFEN_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)

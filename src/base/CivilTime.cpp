@@ -1,6 +1,5 @@
 #include "base/CivilTime.hpp"
 
-#include <charconv>
 #include <cstdio>
 
 namespace kestrelfen {
@@ -105,8 +104,9 @@ CivilTime civilTime(Date date, std::int64_t offset) {
     const std::int64_t seconds = date.wholeSeconds() + offset;
     const std::int64_t days = floorDivide(seconds, secondsPerDay);
     const auto secondOfDay = static_cast<int>(seconds - days * secondsPerDay);
+    const std::int64_t microsecond = date.microseconds() % microsecondsPerSecond;
     return {CivilDay(std::chrono::days(days)), secondOfDay / 3600, secondOfDay / 60 % 60, secondOfDay % 60,
-            static_cast<int>(date.microseconds() - date.wholeSeconds() * microsecondsPerSecond)};
+            static_cast<int>(microsecond < 0 ? microsecond + microsecondsPerSecond : microsecond)};
 }
 
 Date utcMidnight(CivilDay day) {

@@ -18,7 +18,15 @@ class Date {
         return date;
     }
 
-    static constexpr Date fromSeconds(std::int64_t seconds) { return fromMicroseconds(seconds * 1'000'000); }
+    /// Beyond the representable range the date stays at the range's end.
+    static constexpr Date fromSeconds(std::int64_t seconds) {
+        constexpr std::int64_t latest = std::numeric_limits<std::int64_t>::max();
+        constexpr std::int64_t earliest = std::numeric_limits<std::int64_t>::min();
+        if (seconds > latest / 1'000'000) {
+            return fromMicroseconds(latest);
+        }
+        return fromMicroseconds(seconds < earliest / 1'000'000 ? earliest : seconds * 1'000'000);
+    }
 
     /// 0001-01-01 00:00:00 UTC.
     static constexpr Date distantPast() { return fromSeconds(-62'135'596'800); }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <optional>
 #include <string_view>
 
@@ -19,8 +20,21 @@ struct EnumerationRow {
 template <typename Case>
 struct EnumerationTable;
 
+/// Whether each row of the table stands at the place that its case's number gives.
+template <typename Case>
+constexpr bool rowsAreInCaseOrder() {
+    std::size_t index = 0;
+    for (const auto& row : EnumerationTable<Case>::rows) {
+        if (static_cast<std::size_t>(row.value) != index++) {
+            return false;
+        }
+    }
+    return true;
+}
+
 template <typename Case>
 constexpr const EnumerationRow<Case>& enumerationRow(Case value) {
+    static_assert(rowsAreInCaseOrder<Case>());
     return EnumerationTable<Case>::rows[static_cast<std::size_t>(value)];
 }
 

@@ -8,6 +8,10 @@ namespace kestrelfen {
 /// Lets a queued closure find out whether the object that queued it still lives. Main thread only.
 class Lifeline {
   public:
+    Lifeline() = default;
+    Lifeline(const Lifeline&) = delete;
+    Lifeline& operator=(const Lifeline&) = delete;
+
     /// `closure`, made to do nothing once this lifeline has ended.
     template <typename Closure>
     auto guard(Closure closure) const {

@@ -1,5 +1,7 @@
 #include "base/Observable.hpp"
 
+#include <algorithm>
+
 namespace kestrelfen {
 
 void Observers::List::remove(std::uint64_t id) {
@@ -12,14 +14,30 @@ void Observers::List::remove(std::uint64_t id) {
 }
 
 void Observers::List::compact() {
-    if (depth == 0) {
-        std::erase_if(entries, [](const auto& entry) { return entry->removed; });
+    const auto isRemoved = [](const auto& entry) { return entry->removed; };
+    while (depth == 0) {
+        const auto found = std::find_if(entries.begin(), entries.end(), isRemoved);
+        if (found == entries.end()) {
+            return;
+        }
+        // What the listener holds ends with it, and may itself end a subscription to this list: so it must
+        // outlive the erasure.
+        const auto removedEntry = std::move(*found);
+        entries.erase(found);
     }
 }
 
 void Observers::Subscription::cancel() {
     if (const auto list = std::exchange(list_, {}).lock()) {
         list->remove(id_);
+    }
+}
+
+Observers::~Observers() {
+    if (list_) {
+        for (const auto& entry : list_->entries) {
+            entry->removed = true;
+        }
     }
 }
 

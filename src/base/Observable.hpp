@@ -9,7 +9,8 @@
 namespace kestrelfen {
 
 /// A list of listeners, told in the order in which they came. Main thread only. A listener may add or remove
-/// listeners, itself included, while it is being told: one added then is first told the next time.
+/// listeners, itself included, while it is being told: one added then is first told the next time. A list
+/// that a listener destroys tells no further.
 class Observers {
     struct List {
         struct Entry {
@@ -34,6 +35,9 @@ class Observers {
         Subscription(Subscription&& other) noexcept
             : list_(std::exchange(other.list_, {})), id_(std::exchange(other.id_, 0)) {}
         Subscription& operator=(Subscription&& other) noexcept {
+            if (this == &other) {
+                return *this;
+            }
             cancel();
             list_ = std::exchange(other.list_, {});
             id_ = std::exchange(other.id_, 0);
@@ -48,8 +52,14 @@ class Observers {
         std::uint64_t id_ = 0;
     };
 
+    Observers() = default;
+    Observers(const Observers&) = delete;
+    Observers& operator=(const Observers&) = delete;
+    ~Observers();
+
     [[nodiscard]] Subscription add(std::function<void()> listener);
 
+    /// Allocates nothing.
     void notify() const;
 
   private:

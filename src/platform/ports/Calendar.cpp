@@ -10,9 +10,9 @@ namespace {
 
 constexpr std::int64_t secondsPerDay = 86'400;
 
-/// No zone was ever further from UTC than this, and none changed its offset twice within the step.
-constexpr std::int64_t furthestOffset = 36 * 3'600;
-constexpr std::int64_t searchStep = 3'600;
+/// No zone is as far from UTC as this, and none changes its offset twice within the step.
+constexpr std::int64_t furthestOffset = 25 * 3'600;
+constexpr std::int64_t searchStep = 3 * 3'600;
 
 /// A run of whole seconds over which the offset stays the same.
 struct Period {
@@ -21,13 +21,12 @@ struct Period {
     std::int64_t offset;
 };
 
-std::int64_t dayNumber(std::int64_t second, std::int64_t offset) {
-    return std::chrono::floor<std::chrono::days>(std::chrono::seconds(second + offset)).count();
-}
-
-/// The periods that make up [from, until), in order.
+/// The periods, in order, of a stretch that holds every instant at which some place may show `day`.
 template <typename OffsetAt>
-std::vector<Period> periods(std::int64_t from, std::int64_t until, OffsetAt offsetAt) {
+std::vector<Period> periodsAround(CivilDay day, OffsetAt offsetAt) {
+    const std::int64_t midnight = std::chrono::seconds(day.time_since_epoch()).count();
+    const std::int64_t from = midnight - furthestOffset;
+    const std::int64_t until = midnight + secondsPerDay + furthestOffset;
     std::vector<Period> result{{from, until, offsetAt(from)}};
     for (std::int64_t known = from; known < until;) {
         const std::int64_t next = std::min(known + searchStep, until);
@@ -47,24 +46,21 @@ std::vector<Period> periods(std::int64_t from, std::int64_t until, OffsetAt offs
     return result;
 }
 
-/// The first second of day `day` within `periods`, or, where the zone left the day out, of the first later
-/// one.
-std::optional<std::int64_t> firstSecond(const std::vector<Period>& periods, std::int64_t day) {
-    std::optional<std::int64_t> later;
+/// The first second of `day` within `periods`, or, where the zone left the day out, of the next one.
+std::int64_t firstSecond(const std::vector<Period>& periods, CivilDay day) {
+    const std::int64_t midnight = std::chrono::seconds(day.time_since_epoch()).count();
+    std::optional<std::int64_t> next;
     for (const Period& period : periods) {
-        const std::int64_t second = std::max(period.begin, day * secondsPerDay - period.offset);
+        const std::int64_t second = std::max(period.begin, midnight - period.offset);
         if (second >= period.end) {
             continue;
         }
-        const std::int64_t found = dayNumber(second, period.offset);
-        if (found == day) {
+        if (second + period.offset < midnight + secondsPerDay) {
             return second;
         }
-        if (found > day && !later) {
-            later = second;
-        }
+        next = next.value_or(second);
     }
-    return later;
+    return next.value_or(midnight);
 }
 
 } // namespace
@@ -81,11 +77,9 @@ Date Calendar::startOfDay(Date date, int days) const {
 }
 
 Date Calendar::startOfDay(CivilDay day) const {
-    const std::int64_t midnight = utcMidnight(day).wholeSeconds();
-    const auto around = periods(midnight - furthestOffset, midnight + furthestOffset,
-                                [this](std::int64_t second) { return utcOffset(Date::fromSeconds(second)); });
-    const auto second = firstSecond(around, day.time_since_epoch().count());
-    return Date::fromSeconds(second.value_or(midnight));
+    const auto periods =
+        periodsAround(day, [this](std::int64_t second) { return utcOffset(Date::fromSeconds(second)); });
+    return Date::fromSeconds(firstSecond(periods, day));
 }
 
 CivilTime Calendar::civilTime(Date date) const {
@@ -94,17 +88,17 @@ CivilTime Calendar::civilTime(Date date) const {
 
 Calendar::Stretch Calendar::stretchAround(Date date) const {
     const std::uint64_t generation = zoneGeneration();
-    const CivilDay day = civilTime(date).day;
-    const std::int64_t midnight = utcMidnight(day).wholeSeconds();
-    const auto around = periods(midnight - furthestOffset, midnight + furthestOffset,
-                                [this](std::int64_t second) { return utcOffset(Date::fromSeconds(second)); });
-    const auto holds = [second = date.wholeSeconds()](const Period& period) {
-        return second >= period.begin && second < period.end;
-    };
-    const auto period = std::find_if(around.begin(), around.end(), holds);
-    const std::int64_t dayBegin = midnight - period->offset;
+    const std::int64_t offset = utcOffset(date);
+    const CivilDay day = kestrelfen::civilTime(date, offset).day;
+    const auto periods =
+        periodsAround(day, [this](std::int64_t second) { return utcOffset(Date::fromSeconds(second)); });
+    const auto period =
+        std::find_if(periods.begin(), periods.end(),
+                     [second = date.wholeSeconds()](const Period& each) { return second < each.end; });
+    const std::int64_t dayBegin = std::chrono::seconds(day.time_since_epoch()).count() - offset;
     return {Date::fromSeconds(std::max(period->begin, dayBegin)),
-            Date::fromSeconds(std::min(period->end, dayBegin + secondsPerDay)), startOfDay(day), generation};
+            Date::fromSeconds(std::min(period->end, dayBegin + secondsPerDay)),
+            Date::fromSeconds(firstSecond(periods, day)), generation};
 }
 
 } // namespace kestrelfen

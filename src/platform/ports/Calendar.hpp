@@ -8,12 +8,14 @@
 namespace kestrelfen {
 
 /// The person's calendar: local days and times of day in the zone that is in force now. A backend answers two
-/// raw questions, the offset at an instant and whether the zone has changed; the day arithmetic is here.
+/// raw questions, the offset at an instant and whether the zone has changed; the day arithmetic is here. Main
+/// thread only.
 class Calendar {
   public:
     virtual ~Calendar() = default;
 
-    /// The first instant of the local day that holds `date`. The usual answer is a read of memory.
+    /// The first instant of the local day that holds `date`, also where a zone has no midnight that day, or
+    /// two. The usual answer is a read of memory.
     Date startOfDay(Date date) const;
 
     /// The first instant of the calendar day that lies `days` after the one that holds `date` (before it,
@@ -30,13 +32,15 @@ class Calendar {
     int hour(Date date) const { return civilTime(date).hour; }
 
   protected:
-    /// Seconds by which local time is ahead of UTC at `date`.
+    /// Seconds by which local time is ahead of UTC at `date`; below 25 hours either way.
     virtual std::int64_t utcOffset(Date date) const = 0;
 
-    /// A number that differs from every earlier one once the zone in force, or its rules, have changed.
+    /// A number that differs from every earlier one once the zone in force, or its rules, have changed. Asked
+    /// for every date: well below 1 µs.
     virtual std::uint64_t zoneGeneration() const = 0;
 
   private:
+    /// The time around the latest date asked for, within its day and without a change of the offset.
     struct Stretch {
         Date from;
         Date until;

@@ -1,6 +1,5 @@
 #include "platform/ports/Preferences.hpp"
 
-#include <cmath>
 #include <limits>
 
 namespace kestrelfen {
@@ -38,7 +37,7 @@ std::optional<bool> Preferences::boolean(std::string_view key) const {
 
 std::optional<std::int64_t> Preferences::integer(std::string_view key) const {
     if (const auto* const number = valueOf<double>(*this, key)) {
-        return std::isnan(*number) ? std::nullopt : std::optional(cut(*number));
+        return cut(*number);
     }
     return copyOf<std::int64_t>(*this, key);
 }

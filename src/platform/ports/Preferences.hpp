@@ -4,10 +4,12 @@
 #include "base/Observable.hpp"
 
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -29,18 +31,19 @@ class Preferences {
     /// The value under `key`, or null when it is absent. Valid until the next change.
     virtual const PreferenceValue* object(std::string_view key) const = 0;
 
-    /// Numbers must be finite. The value reads back exactly.
+    /// The value reads back exactly. Numbers must be finite; in text that is not UTF-8 replacement characters
+    /// take the place of what is malformed. Keeps the value in force even where it cannot be stored.
     virtual void set(std::string_view key, PreferenceValue value) = 0;
 
     virtual void remove(std::string_view key) = 0;
 
-    /// Tells of every real change, whether made here or outside the program.
+    /// Tells of every real change, whether made here or outside the program, once it is in force.
     [[nodiscard]] Subscription observe(std::function<void()> changed) {
         return observers_.add(std::move(changed));
     }
 
     // A value of another type than the one asked for reads as absent; the two number types read as each
-    // other, a real one cut towards zero.
+    // other, a real one cut towards zero and kept within the integers' range.
     std::optional<bool> boolean(std::string_view key) const;
     std::optional<std::int64_t> integer(std::string_view key) const;
     std::optional<double> real(std::string_view key) const;

@@ -1,0 +1,88 @@
+#include "Json.hpp"
+
+#include "base/CivilTime.hpp"
+
+#include <charconv>
+#include <cmath>
+
+namespace kestrelfen {
+
+namespace {
+
+constexpr double tolerance = 1e-6;
+
+std::optional<double> numberOf(const std::string& word) {
+    double number = 0;
+    const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), number);
+    const bool whole = error == std::errc() && end == word.data() + word.size();
+    return whole ? std::optional(number) : std::nullopt;
+}
+
+/// The part of `path` behind its first `length` characters and the dot that follows them.
+std::string_view behind(std::string_view path, std::size_t length) {
+    return length < path.size() ? path.substr(length + 1) : std::string_view();
+}
+
+Json valueInObject(const Json& object, std::string_view path) {
+    for (std::size_t length = path.size(); length != std::string_view::npos && length > 0;
+         length = path.rfind('.', length - 1)) {
+        const auto found = object.find(std::string(path.substr(0, length)));
+        if (found != object.end()) {
+            return valueAt(*found, behind(path, length));
+        }
+    }
+    return nullptr;
+}
+
+Json valueInList(const Json& list, std::string_view path) {
+    const std::string_view word = path.substr(0, path.find('.'));
+    if (path == "count") {
+        return list.size();
+    }
+    std::size_t index = 0;
+    const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), index);
+    if (error != std::errc() || end != word.data() + word.size() || index >= list.size()) {
+        return nullptr;
+    }
+    return valueAt(list[index], behind(path, word.size()));
+}
+
+} // namespace
+
+Json jsonOf(Date date) {
+    return isoTime(date, 3);
+}
+
+template <>
+Json jsonOf(const std::optional<Date>& date) {
+    return date ? jsonOf(*date) : Json(nullptr);
+}
+
+std::string lineOf(const Json& json) {
+    return json.dump(-1, ' ', false, Json::error_handler_t::replace);
+}
+
+Json valueAt(const Json& json, std::string_view path) {
+    if (path.empty()) {
+        return json;
+    }
+    if (json.is_object()) {
+        return valueInObject(json, path);
+    }
+    return json.is_array() ? valueInList(json, path) : Json(nullptr);
+}
+
+bool matches(const Json& actual, const std::string& expected) {
+    if (actual.is_number()) {
+        const auto number = numberOf(expected);
+        return number &&
+               (*number == actual.get<double>() || std::abs(*number - actual.get<double>()) <= tolerance);
+    }
+    return wordOf(actual) == expected;
+}
+
+std::string wordOf(const Json& actual) {
+    return actual.is_string() ? actual.get<std::string>() : lineOf(actual);
+}
+
+} // namespace kestrelfen

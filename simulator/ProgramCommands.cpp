@@ -1,0 +1,92 @@
+#include "Commands.hpp"
+#include "ScenarioError.hpp"
+#include "Simulation.hpp"
+#include "Values.hpp"
+
+#include <array>
+#include <utility>
+
+namespace kestrelfen {
+
+namespace {
+
+void launch(Simulation& simulation, Arguments& arguments) {
+    arguments.end();
+    simulation.launch();
+}
+
+void quit(Simulation& simulation, Arguments& arguments) {
+    arguments.end();
+    simulation.quit();
+}
+
+void kill(Simulation& simulation, Arguments& arguments) {
+    arguments.end();
+    simulation.kill();
+}
+
+void finishOnboarding(Simulation& simulation, Arguments& arguments) {
+    arguments.end();
+    simulation.program().delegate().finishOnboarding();
+}
+
+using Operation = void (*)(BreakEngine&, Date);
+
+constexpr std::array<std::pair<std::string_view, Operation>, 6> operations{{
+    {"pause", [](BreakEngine& engine, Date) { engine.pause(PauseReason::manual); }},
+    {"resume", [](BreakEngine& engine, Date now) { engine.resume(now); }},
+    {"skip-break", [](BreakEngine& engine, Date) { engine.skipCurrentBreak(); }},
+    {"skip-next", [](BreakEngine& engine, Date) { engine.skipNextBreak(); }},
+    {"dismiss-warning", [](BreakEngine& engine, Date) { engine.dismissPreBreakWarning(); }},
+    {"begin-break", [](BreakEngine& engine, Date now) { engine.beginBreak(now); }},
+}};
+
+using TimedOperation = void (*)(BreakEngine&, double, Date);
+
+constexpr std::array<std::pair<std::string_view, TimedOperation>, 3> timedOperations{{
+    {"pause-for", [](BreakEngine& engine, double seconds, Date now) { engine.pauseFor(seconds, now); }},
+    {"snooze", [](BreakEngine& engine, double seconds, Date now) { engine.snooze(seconds, now); }},
+    {"postpone",
+     [](BreakEngine& engine, double seconds, Date now) { engine.postponeNextBreak(seconds, now); }},
+}};
+
+void perform(Simulation& simulation, Arguments& arguments) {
+    const std::string name = arguments.take("the operation");
+    const Date now = simulation.world().clock.now();
+    for (const auto& [known, operation] : operations) {
+        if (known == name) {
+            arguments.end();
+            operation(simulation.program().engine(), now);
+            return;
+        }
+    }
+    for (const auto& [known, operation] : timedOperations) {
+        if (known == name) {
+            const double seconds = secondsOf(arguments.take("SECONDS"));
+            arguments.end();
+            operation(simulation.program().engine(), seconds, now);
+            return;
+        }
+    }
+    throw ScenarioError(quoted(name) + " is no operation");
+}
+
+constexpr std::array<std::pair<std::string_view, Command>, 5> commands{
+    {{"launch", launch},
+     {"quit", quit},
+     {"kill", kill},
+     {"finish-onboarding", finishOnboarding},
+     {"do", perform}}};
+
+} // namespace
+
+Command programCommand(std::string_view name) {
+    for (const auto& [known, command] : commands) {
+        if (known == name) {
+            return command;
+        }
+    }
+    return nullptr;
+}
+
+} // namespace kestrelfen

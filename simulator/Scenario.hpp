@@ -1,0 +1,38 @@
+#pragma once
+
+#include "Arguments.hpp"
+#include "Simulation.hpp"
+
+#include <istream>
+#include <string>
+
+namespace kestrelfen {
+
+/// Runs a scenario line by line.
+class Scenario {
+  public:
+    enum class Result { allHeld, expectationFailed, malformed };
+
+    /// `name` stands before the line number in what is said on standard error.
+    explicit Scenario(std::string name) : name_(std::move(name)) {}
+
+    /// Stops at a malformed line; goes on after an expectation that did not hold.
+    Result run(std::istream& lines);
+
+  private:
+    void runLine(const std::string& line);
+    void runCommand(const std::string& command, Arguments& arguments);
+    void show(Arguments& arguments);
+    void expect(Arguments& arguments);
+    void expectEvent(Arguments& arguments);
+    void setEvents(Arguments& arguments);
+    void compare(const std::string& subject, const Json& actual, const std::string& expected);
+    void say(const std::string& message) const;
+
+    std::string name_;
+    int lineNumber_ = 0;
+    bool failed_ = false;
+    Simulation simulation_;
+};
+
+} // namespace kestrelfen

@@ -1,0 +1,21 @@
+#include "SimulatedProgram.hpp"
+
+namespace kestrelfen {
+
+SimulatedProgram::SimulatedProgram(const Platform& platform,
+                                   const std::function<void(std::string_view call)>& onWindows)
+    : windows_(platform), delegate_(platform, nullptr, windows_) {
+    windows_.setEngine(delegate_.engine());
+    delegate_.overlays().onChange = onWindows;
+}
+
+std::int64_t SimulatedProgram::breakWindowCount() {
+    return static_cast<std::int64_t>(delegate_.overlays().breakWindows().size());
+}
+
+SimulatedBreakWindow* SimulatedProgram::firstOverlay() {
+    const auto& windows = delegate_.overlays().breakWindows();
+    return windows.empty() ? nullptr : dynamic_cast<SimulatedBreakWindow*>(windows.front().get());
+}
+
+} // namespace kestrelfen

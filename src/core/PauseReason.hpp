@@ -1,0 +1,53 @@
+#pragma once
+
+#include "base/PauseKind.hpp"
+
+namespace kestrelfen {
+
+class Preferences;
+
+/// Why the timer stands still.
+enum class PauseReason {
+    manual,
+    systemSleep,
+    screenLocked,
+    displaySleep,
+    userIdle,
+    meeting,
+    videoPlayback,
+    screenSharing,
+    focusApp,
+};
+
+template <>
+struct EnumerationTable<PauseReason> {
+    static constexpr std::array<EnumerationRow<PauseReason>, 9> rows{{
+        {PauseReason::manual, "manual"},
+        {PauseReason::systemSleep, "systemSleep"},
+        {PauseReason::screenLocked, "screenLocked"},
+        {PauseReason::displaySleep, "displaySleep"},
+        {PauseReason::userIdle, "userIdle"},
+        {PauseReason::meeting, "meeting"},
+        {PauseReason::videoPlayback, "videoPlayback"},
+        {PauseReason::screenSharing, "screenSharing"},
+        {PauseReason::focusApp, "focusApp"},
+    }};
+};
+
+constexpr bool isAutomatic(PauseReason reason) {
+    return reason != PauseReason::manual;
+}
+
+/// Whether the pause came from what the person is doing at the machine.
+constexpr bool isSmart(PauseReason reason) {
+    return reason == PauseReason::meeting || reason == PauseReason::videoPlayback ||
+           reason == PauseReason::screenSharing || reason == PauseReason::focusApp;
+}
+
+/// Whether the person allows this kind of pause.
+bool isEnabledInSettings(PauseReason reason, const Preferences& preferences);
+
+/// The kind of the same name.
+PauseKind pauseKind(PauseReason reason);
+
+} // namespace kestrelfen

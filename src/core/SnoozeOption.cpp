@@ -1,0 +1,14 @@
+#include "core/SnoozeOption.hpp"
+
+namespace kestrelfen {
+
+std::string spokenLabel(SnoozeOption option) {
+    const char* const ending = option == SnoozeOption::one ? " minute" : " minutes";
+    return "Snooze " + std::to_string(minutes(option)) + ending;
+}
+
+std::string pickerLabel(SnoozeOption option) {
+    return std::to_string(minutes(option)) + " min";
+}
+
+} // namespace kestrelfen

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "platform/linux/XConnection.hpp"
+#include "platform/ports/TrayIcon.hpp"
+
+#include <QSize>
+
+#include <vector>
+
+namespace kestrelfen {
+
+/// The small window that an X11 system tray takes into its panel. Main thread only; it must not outlive its
+/// connection.
+class XembedWindow {
+  public:
+    /// Asks `tray` to take the window in.
+    XembedWindow(XConnection& connection, xcb_window_t tray);
+    XembedWindow(const XembedWindow&) = delete;
+    XembedWindow& operator=(const XembedWindow&) = delete;
+    ~XembedWindow();
+
+    xcb_window_t id() const { return window_; }
+    QSize size() const { return size_; }
+    void setSize(QSize size) { size_ = size; }
+
+    void draw(const std::vector<TrayPicture>& pictures);
+
+  private:
+    void findVisual(xcb_window_t tray);
+    void create();
+    void describe();
+    void askToDock(xcb_window_t tray);
+    bool hasAlpha() const { return depth_ == 32; }
+
+    XConnection& connection_;
+    xcb_window_t window_;
+    xcb_visualid_t visual_;
+    std::uint8_t depth_;
+    xcb_colormap_t colormap_ = XCB_NONE;
+    QSize size_;
+};
+
+} // namespace kestrelfen

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <filesystem>
+
+namespace kestrelfen {
+
+/// The person's home: $HOME, or what the system's user database says.
+std::filesystem::path homeFolder();
+
+/// Where programs keep what the person has chosen: $XDG_CONFIG_HOME if it is an absolute path, or ~/.config.
+std::filesystem::path configurationFolder();
+
+} // namespace kestrelfen

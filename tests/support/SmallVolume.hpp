@@ -1,0 +1,44 @@
+#pragma once
+
+#include <filesystem>
+#include <fstream>
+#include <string>
+
+#include <sched.h>
+#include <sys/mount.h>
+
+namespace kestrelfen {
+
+/// A volume of 64 KiB in memory, mounted at a folder for this process alone. Needs the right to mount.
+class SmallVolume {
+  public:
+    explicit SmallVolume(std::filesystem::path folder) : folder_(std::move(folder)) {
+        isMounted_ = ::unshare(CLONE_NEWNS) == 0 &&
+                     ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+                     ::mount("none", folder_.c_str(), "tmpfs", 0, "size=64k") == 0;
+    }
+
+    SmallVolume(const SmallVolume&) = delete;
+    SmallVolume& operator=(const SmallVolume&) = delete;
+
+    ~SmallVolume() {
+        if (isMounted_) {
+            ::umount2(folder_.c_str(), MNT_DETACH);
+        }
+    }
+
+    bool isMounted() const { return isMounted_; }
+
+    /// Takes all the room that is left.
+    void fill() const { std::ofstream(filler()) << std::string(128 * 1024, 'x'); }
+
+    void makeRoom() const { std::filesystem::remove(filler()); }
+
+  private:
+    std::filesystem::path filler() const { return folder_ / "filler"; }
+
+    std::filesystem::path folder_;
+    bool isMounted_ = false;
+};
+
+} // namespace kestrelfen
