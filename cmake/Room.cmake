@@ -1,18 +1,25 @@
 # Warnings and sanitizers for all code of the project, and the one way to declare a room.
 
-add_library(kestrelfen_options INTERFACE)
-target_compile_options(kestrelfen_options INTERFACE
-    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wold-style-cast -Wnon-virtual-dtor
-    $<$<BOOL:${KESTRELFEN_WERROR}>:-Werror>)
+set(KESTRELFEN_WARNINGS
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wold-style-cast -Wnon-virtual-dtor)
+if(KESTRELFEN_WERROR)
+    list(APPEND KESTRELFEN_WARNINGS -Werror)
+endif()
 # GCC 12 sees overlaps in the standard library's own string code where there are none.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-    target_compile_options(kestrelfen_options INTERFACE -Wno-restrict)
+    list(APPEND KESTRELFEN_WARNINGS -Wno-restrict)
 endif()
+
+add_library(kestrelfen_sanitizers INTERFACE)
 if(KESTRELFEN_SANITIZE)
-    target_compile_options(kestrelfen_options INTERFACE
+    target_compile_options(kestrelfen_sanitizers INTERFACE
         -fsanitize=${KESTRELFEN_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
-    target_link_options(kestrelfen_options INTERFACE -fsanitize=${KESTRELFEN_SANITIZE})
+    target_link_options(kestrelfen_sanitizers INTERFACE -fsanitize=${KESTRELFEN_SANITIZE})
 endif()
+
+add_library(kestrelfen_options INTERFACE)
+target_compile_options(kestrelfen_options INTERFACE ${KESTRELFEN_WARNINGS})
+target_link_libraries(kestrelfen_options INTERFACE kestrelfen_sanitizers)
 
 # kestrelfen_room(NAME SOURCES file… [USES target…])
 # A static library of one room. It may include the headers of the rooms it uses, and of no others: each room's

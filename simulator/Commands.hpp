@@ -2,6 +2,7 @@
 
 #include "Arguments.hpp"
 
+#include <array>
 #include <string_view>
 
 namespace kestrelfen {
@@ -10,6 +11,22 @@ class Simulation;
 
 /// One command of the scenario language. Throws a ScenarioError where the words are not its own.
 using Command = void (*)(Simulation&, Arguments&);
+
+struct NamedCommand {
+    std::string_view name;
+    Command command;
+};
+
+/// Null where `commands` has none of that name.
+template <std::size_t count>
+constexpr Command commandNamed(const std::array<NamedCommand, count>& commands, std::string_view name) {
+    for (const NamedCommand& known : commands) {
+        if (known.name == name) {
+            return known.command;
+        }
+    }
+    return nullptr;
+}
 
 // Each answers null where it has no command of that name.
 Command timeCommand(std::string_view name);

@@ -18,20 +18,29 @@ std::optional<double> numberOf(const std::string& word) {
     return whole ? std::optional(number) : std::nullopt;
 }
 
+/// The keys and indices that are left; absent at the end of a path.
+using Rest = std::optional<std::string_view>;
+
+Json valueBehind(const Json& json, Rest path);
+
 /// The part of `path` behind its first `length` characters and the dot that follows them.
-std::string_view behind(std::string_view path, std::size_t length) {
-    return length < path.size() ? path.substr(length + 1) : std::string_view();
+Rest behind(std::string_view path, std::size_t length) {
+    return length < path.size() ? Rest(path.substr(length + 1)) : std::nullopt;
 }
 
 Json valueInObject(const Json& object, std::string_view path) {
-    for (std::size_t length = path.size(); length != std::string_view::npos && length > 0;
-         length = path.rfind('.', length - 1)) {
+    for (std::size_t length = path.size();; length = path.rfind('.', length - 1)) {
+        if (length == std::string_view::npos) {
+            return nullptr;
+        }
         const auto found = object.find(std::string(path.substr(0, length)));
         if (found != object.end()) {
-            return valueAt(*found, behind(path, length));
+            return valueBehind(*found, behind(path, length));
+        }
+        if (length == 0) {
+            return nullptr;
         }
     }
-    return nullptr;
 }
 
 Json valueInList(const Json& list, std::string_view path) {
@@ -44,7 +53,11 @@ Json valueInList(const Json& list, std::string_view path) {
     if (error != std::errc() || end != word.data() + word.size() || index >= list.size()) {
         return nullptr;
     }
-    return valueAt(list[index], behind(path, word.size()));
+    return valueBehind(list[index], behind(path, word.size()));
+}
+
+Json valueBehind(const Json& json, Rest path) {
+    return path ? valueAt(json, *path) : json;
 }
 
 } // namespace
@@ -63,9 +76,6 @@ std::string lineOf(const Json& json) {
 }
 
 Json valueAt(const Json& json, std::string_view path) {
-    if (path.empty()) {
-        return json;
-    }
     if (json.is_object()) {
         return valueInObject(json, path);
     }

@@ -10,6 +10,7 @@
 #include "ui/PreBreakWarningView/PreBreakWarningContent.hpp"
 
 #include <algorithm>
+#include <array>
 
 namespace kestrelfen {
 
@@ -102,6 +103,8 @@ void escape(Simulation& simulation, Arguments& arguments) {
     }
 }
 
+constexpr std::array<NamedCommand, 2> commands{{{"press", press}, {"escape", escape}}};
+
 } // namespace
 
 void notAvailable() {
@@ -109,10 +112,7 @@ void notAvailable() {
 }
 
 Command pressCommand(std::string_view name) {
-    if (name == "press") {
-        return press;
-    }
-    return name == "escape" ? escape : nullptr;
+    return commandNamed(commands, name);
 }
 
 } // namespace kestrelfen

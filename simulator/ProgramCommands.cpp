@@ -71,22 +71,16 @@ void perform(Simulation& simulation, Arguments& arguments) {
     throw ScenarioError(quoted(name) + " is no operation");
 }
 
-constexpr std::array<std::pair<std::string_view, Command>, 5> commands{
-    {{"launch", launch},
-     {"quit", quit},
-     {"kill", kill},
-     {"finish-onboarding", finishOnboarding},
-     {"do", perform}}};
+constexpr std::array<NamedCommand, 5> commands{{{"launch", launch},
+                                                {"quit", quit},
+                                                {"kill", kill},
+                                                {"finish-onboarding", finishOnboarding},
+                                                {"do", perform}}};
 
 } // namespace
 
 Command programCommand(std::string_view name) {
-    for (const auto& [known, command] : commands) {
-        if (known == name) {
-            return command;
-        }
-    }
-    return nullptr;
+    return commandNamed(commands, name);
 }
 
 } // namespace kestrelfen

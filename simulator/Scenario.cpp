@@ -26,6 +26,10 @@ Scenario::Result Scenario::run(std::istream& lines) {
         }
         Output::flush();
     }
+    if (lines.bad()) {
+        say("the scenario cannot be read further");
+        return Result::malformed;
+    }
     return failed_ ? Result::expectationFailed : Result::allHeld;
 }
 

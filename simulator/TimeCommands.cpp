@@ -7,7 +7,7 @@
 #include "platform/posix/Stopwatch.hpp"
 
 #include <array>
-#include <utility>
+#include <limits>
 
 namespace kestrelfen {
 
@@ -16,7 +16,11 @@ namespace {
 constexpr std::int64_t oneSecond = 1'000'000;
 
 void moveClock(Simulation& simulation, std::int64_t microseconds) {
-    simulation.world().clock.advanceMicroseconds(microseconds);
+    FakeClock& clock = simulation.world().clock;
+    if (microseconds > std::numeric_limits<std::int64_t>::max() - clock.now().microseconds()) {
+        throw ScenarioError("the clock cannot go that far");
+    }
+    clock.advanceMicroseconds(microseconds);
 }
 
 void runTicks(Simulation& simulation, std::int64_t count, std::int64_t step) {
@@ -88,18 +92,13 @@ void bench(Simulation& simulation, Arguments& arguments) {
     Output::line(lineOf({{"bench", "ticks"}, {"ticks", count}, {"seconds", seconds}}));
 }
 
-constexpr std::array<std::pair<std::string_view, Command>, 6> commands{
+constexpr std::array<NamedCommand, 6> commands{
     {{"zone", zone}, {"clock", clock}, {"sleep", sleep}, {"run", run}, {"tick", tick}, {"bench", bench}}};
 
 } // namespace
 
 Command timeCommand(std::string_view name) {
-    for (const auto& [known, command] : commands) {
-        if (known == name) {
-            return command;
-        }
-    }
-    return nullptr;
+    return commandNamed(commands, name);
 }
 
 } // namespace kestrelfen

@@ -4,13 +4,12 @@
 #include "Values.hpp"
 
 #include <array>
-#include <utility>
 
 namespace kestrelfen {
 
 namespace {
 
-constexpr std::int64_t mostDisplays = 64;
+constexpr std::int64_t mostDisplays = 1'000;
 
 PreferenceDictionary takeDictionary(Arguments& arguments) {
     PreferenceDictionary dictionary;
@@ -125,23 +124,18 @@ void lock(Simulation& simulation, Arguments& arguments) {
     simulation.world().sessionLock.setResult(result);
 }
 
-constexpr std::array<std::pair<std::string_view, Command>, 7> commands{{{"pref", pref},
-                                                                        {"unpref", unpref},
-                                                                        {"input", input},
-                                                                        {"displays", displays},
-                                                                        {"program", program},
-                                                                        {"signal", signal},
-                                                                        {"lock", lock}}};
+constexpr std::array<NamedCommand, 7> commands{{{"pref", pref},
+                                                {"unpref", unpref},
+                                                {"input", input},
+                                                {"displays", displays},
+                                                {"program", program},
+                                                {"signal", signal},
+                                                {"lock", lock}}};
 
 } // namespace
 
 Command worldCommand(std::string_view name) {
-    for (const auto& [known, command] : commands) {
-        if (known == name) {
-            return command;
-        }
-    }
-    return nullptr;
+    return commandNamed(commands, name);
 }
 
 } // namespace kestrelfen

@@ -1,6 +1,7 @@
 #include "Output.hpp"
 #include "Scenario.hpp"
 
+#include <array>
 #include <csignal>
 #include <cstdio>
 #include <fstream>
@@ -15,6 +16,7 @@ using kestrelfen::Scenario;
 
 constexpr int malformedStatus = 2;
 constexpr int faultStatus = 3;
+constexpr std::array<int, 5> faultSignals{SIGABRT, SIGBUS, SIGFPE, SIGILL, SIGSEGV};
 
 extern "C" void stopAtFault(int) {
     kestrelfen::Output::flush();
@@ -39,20 +41,30 @@ int refuse(const std::string& what) {
     return malformedStatus;
 }
 
+/// A folder can be opened, but not read.
+bool canBeRead(std::ifstream& file) {
+    return file.is_open() && (file.peek(), !file.bad());
+}
+
 int runFile(const std::string& path) {
     std::ifstream file(path, std::ios::binary);
-    if (!file || file.peek() == std::ifstream::traits_type::eof()) {
-        if (!file.is_open() || file.bad() || !file.eof()) {
-            return refuse(path + " cannot be read");
-        }
+    if (!canBeRead(file)) {
+        return refuse(path + " cannot be read");
     }
     return statusOf(Scenario(path).run(file));
+}
+
+int runStandardInput() {
+    const int status = statusOf(Scenario("-").run(std::cin));
+    return std::ferror(stdin) ? refuse("standard input cannot be read") : status;
 }
 
 } // namespace
 
 int main(int argumentCount, char** arguments) {
-    std::signal(SIGABRT, stopAtFault);
+    for (const int fault : faultSignals) {
+        std::signal(fault, stopAtFault);
+    }
     std::optional<std::string> scenario;
     for (int index = 1; index < argumentCount; ++index) {
         const std::string argument = arguments[index];
@@ -67,8 +79,5 @@ int main(int argumentCount, char** arguments) {
         }
         scenario = argument;
     }
-    if (scenario && *scenario != "-") {
-        return runFile(*scenario);
-    }
-    return statusOf(Scenario("-").run(std::cin));
+    return scenario && *scenario != "-" ? runFile(*scenario) : runStandardInput();
 }

@@ -39,7 +39,10 @@ class Date {
         return microseconds_ % 1'000'000 < 0 ? quotient - 1 : quotient;
     }
 
-    friend constexpr auto operator<=>(const Date&, const Date&) = default;
+    friend constexpr bool operator==(const Date&, const Date&) = default;
+    friend constexpr std::strong_ordering operator<=>(const Date& one, const Date& other) {
+        return one.microseconds_ <=> other.microseconds_;
+    }
 
   private:
     std::int64_t microseconds_ = 0;

@@ -41,7 +41,7 @@ TEST(Lifeline, theArgumentsReachTheClosure) {
     const Lifeline lifeline;
     std::string heard;
     auto guarded =
-        lifeline.guard([&heard](std::string text, int number) { heard = text + std::to_string(number); });
+        lifeline.guard([&heard](const std::string& text, int number) { heard = text + std::to_string(number); });
     guarded(std::string("take "), 5);
     EXPECT_EQ(heard, "take 5");
 }

@@ -6,7 +6,6 @@
 #include <functional>
 #include <gmock/gmock.h>
 #include <memory>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -57,9 +56,12 @@ TEST(Observers, aSubscriptionEndsWithItsScope) {
 TEST(Observers, aMovedSubscriptionListensOn) {
     Heard heard;
     Observers observers;
-    std::optional<Subscription> original = observers.add(heard.listener("first"));
-    const Subscription moved = *std::move(original);
-    original.reset();
+    Subscription moved;
+    {
+        Subscription original = observers.add(heard.listener("first"));
+        moved = std::move(original);
+    }
+    const Subscription movedOn(std::move(moved));
     observers.notify();
     EXPECT_THAT(heard.names, ElementsAre("first"));
 }

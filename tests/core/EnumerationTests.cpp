@@ -55,9 +55,8 @@ TEST(Enumerations, EnforcementLevelDelaysTheSkipByNothingFiveSecondsOrForEver) {
 }
 
 TEST(Enumerations, DoubleEscapeActionHasItsCasesAndLabelsInOrder) {
-    EXPECT_EQ(
-        rowsOf<DoubleEscapeAction>(),
-        (Rows{{"nothing", "Nothing"}, {"snooze", "Snooze the break"}, {"skip", "Skip the break"}}));
+    EXPECT_EQ(rowsOf<DoubleEscapeAction>(),
+              (Rows{{"nothing", "Nothing"}, {"snooze", "Snooze the break"}, {"skip", "Skip the break"}}));
 }
 
 TEST(Enumerations, IdleModeHasItsCasesLabelsAndCaptionsInOrder) {
@@ -82,9 +81,15 @@ TEST(Enumerations, BreakStateHasItsCasesInOrder) {
 }
 
 TEST(Enumerations, PauseReasonHasItsCasesInOrder) {
-    EXPECT_EQ(rowsOf<PauseReason>(),
-              (Rows{{"manual"}, {"systemSleep"}, {"screenLocked"}, {"displaySleep"}, {"userIdle"},
-                    {"meeting"}, {"videoPlayback"}, {"screenSharing"}, {"focusApp"}}));
+    EXPECT_EQ(rowsOf<PauseReason>(), (Rows{{"manual"},
+                                           {"systemSleep"},
+                                           {"screenLocked"},
+                                           {"displaySleep"},
+                                           {"userIdle"},
+                                           {"meeting"},
+                                           {"videoPlayback"},
+                                           {"screenSharing"},
+                                           {"focusApp"}}));
 }
 
 TEST(Enumerations, PauseKindIsTheTwinOfPauseReason) {

@@ -84,8 +84,8 @@ TEST(SettingsActiveTaskID, IsAbsentWithoutData) {
 
 TEST(SettingsActiveTaskID, ReadsBackWhatWasSet) {
     FakePreferences preferences;
-    for (const std::int64_t identifier : {std::int64_t{1}, std::int64_t{0}, std::int64_t{-5},
-                                          std::numeric_limits<std::int64_t>::max()}) {
+    for (const std::int64_t identifier :
+         {std::int64_t{1}, std::int64_t{0}, std::int64_t{-5}, std::numeric_limits<std::int64_t>::max()}) {
         Settings::setActiveTaskID(preferences, identifier);
         EXPECT_EQ(Settings::activeTaskID(preferences), identifier);
     }

@@ -16,8 +16,8 @@ template <typename Case>
 void expectStoredUnder(std::string_view key, Case fallback) {
     FakePreferences preferences;
     EXPECT_EQ(current<Case>(preferences), fallback);
-    for (const PreferenceValue& unknown : {PreferenceValue("unknown"), PreferenceValue(""),
-                                           PreferenceValue(1), PreferenceValue(true)}) {
+    for (const PreferenceValue& unknown :
+         {PreferenceValue("unknown"), PreferenceValue(""), PreferenceValue(1), PreferenceValue(true)}) {
         preferences.set(key, unknown);
         EXPECT_EQ(current<Case>(preferences), fallback);
     }
@@ -81,8 +81,9 @@ TEST(IdleThreshold, OffIsTheLargestFiniteNumber) {
 TEST(IdleThreshold, AutomaticIsATwentiethOfTheWorkIntervalWithinHalfAMinuteAndTwo) {
     FakePreferences preferences;
     EXPECT_EQ(effectiveIdleThreshold(preferences), 60.0);
-    const std::pair<double, double> rows[] = {{60, 30},   {599, 30},   {600, 30},   {602, 30.1}, {1200, 60},
-                                              {2400, 120}, {2398, 119.9}, {2401, 120}, {7200, 120}, {0, 30}};
+    const std::pair<double, double> rows[] = {{60, 30},    {599, 30},   {600, 30},     {602, 30.1},
+                                              {1200, 60},  {2400, 120}, {2398, 119.9}, {2401, 120},
+                                              {7200, 120}, {0, 30}};
     for (const auto& [work, threshold] : rows) {
         preferences.set("workIntervalSeconds", work);
         EXPECT_DOUBLE_EQ(effectiveIdleThreshold(preferences), threshold) << work;

@@ -91,7 +91,8 @@ TYPED_TEST(CalendarContract, aDayThatIsBrokenOffAndResumedBeginsWithItsFirstInst
     this->expectDay(zone, "2006-10-29T03:29:59Z", "2006-10-28T02:30:00Z");
     this->expectDay(zone, "2006-10-29T03:30:00Z", "2006-10-29T02:30:00Z");
     this->expectDay(zone, "2006-10-29T12:00:00Z", "2006-10-29T02:30:00Z");
-    EXPECT_EQ(text(this->in(zone).startOfDay(at("2006-10-30T12:00:00Z"), -1)), text(at("2006-10-29T02:30:00Z")));
+    EXPECT_EQ(text(this->in(zone).startOfDay(at("2006-10-30T12:00:00Z"), -1)),
+              text(at("2006-10-29T02:30:00Z")));
 }
 
 TYPED_TEST(CalendarContract, aDayThatTheZoneLeftOutHasTheNextOnesStart) {

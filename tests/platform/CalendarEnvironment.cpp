@@ -4,8 +4,6 @@
 #include <ctime>
 #include <filesystem>
 #include <fstream>
-#include <stdexcept>
-#include <unistd.h>
 
 namespace kestrelfen {
 
@@ -28,17 +26,6 @@ void ZoneVariable::set(const std::string& value) {
 
 void ZoneVariable::unset() {
     unsetenv("TZ");
-}
-
-ScratchDirectory::ScratchDirectory() : path_(files::temp_directory_path() / "kestrelfen-calendar-XXXXXX") {
-    if (!mkdtemp(path_.data())) {
-        throw std::runtime_error("no temporary directory");
-    }
-}
-
-ScratchDirectory::~ScratchDirectory() {
-    std::error_code ignored;
-    files::remove_all(path_, ignored);
 }
 
 std::string zoneFileOf(const std::string& zone) {

@@ -21,21 +21,6 @@ class ZoneVariable {
     std::optional<std::string> before_;
 };
 
-/// A directory of its own for a test, removed at its end.
-class ScratchDirectory {
-  public:
-    ScratchDirectory();
-    ScratchDirectory(const ScratchDirectory&) = delete;
-    ScratchDirectory& operator=(const ScratchDirectory&) = delete;
-    ~ScratchDirectory();
-
-    const std::string& path() const { return path_; }
-    std::string file(const std::string& name) const { return path_ + "/" + name; }
-
-  private:
-    std::string path_;
-};
-
 /// The file of a zone in the system's zone database.
 std::string zoneFileOf(const std::string& zone);
 

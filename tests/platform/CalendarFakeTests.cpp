@@ -72,10 +72,26 @@ TEST(FakeCalendar, knowsTheNamesOfTheZoneDatabase) {
 
 TEST(FakeCalendar, knowsNoOtherNames) {
     using namespace std::string_view_literals;
-    for (const std::string_view name :
-         {""sv, "Europe/Atlantis"sv, "Europe"sv, "Europe/"sv, "/Europe/Berlin"sv, "/usr/share/zoneinfo/UTC"sv,
-          "../zoneinfo/UTC"sv, "Europe/../UTC"sv, "./UTC"sv, "Europe//Berlin"sv, "Europe/Berlin/"sv, "zone.tab"sv,
-          "tzdata.zi"sv, "leapseconds"sv, "UTC\0"sv, "UTC "sv, ":UTC"sv, "CET-1CEST"sv, "."sv, ".."sv}) {
+    for (const std::string_view name : {""sv,
+                                        "Europe/Atlantis"sv,
+                                        "Europe"sv,
+                                        "Europe/"sv,
+                                        "/Europe/Berlin"sv,
+                                        "/usr/share/zoneinfo/UTC"sv,
+                                        "../zoneinfo/UTC"sv,
+                                        "Europe/../UTC"sv,
+                                        "./UTC"sv,
+                                        "Europe//Berlin"sv,
+                                        "Europe/Berlin/"sv,
+                                        "zone.tab"sv,
+                                        "tzdata.zi"sv,
+                                        "leapseconds"sv,
+                                        "UTC\0"sv,
+                                        "UTC "sv,
+                                        ":UTC"sv,
+                                        "CET-1CEST"sv,
+                                        "."sv,
+                                        ".."sv}) {
         EXPECT_FALSE(FakeCalendar::isKnownZone(name)) << name;
     }
 }
@@ -153,9 +169,10 @@ TEST(ZoneRule, countsADayOfTheYearWithOrWithoutTheLeapDay) {
 
 TEST(ZoneRule, thatIsNoneIsNotRead) {
     for (const char* const rule :
-         {"", "CET", "CE-1", "-1", "CET-1CEST", "CET-1CEST,M3.5.0", "CET-1CEST,M3.5.0,M10.5.0,", "CET-1CEST,M13.5.0,M10.5.0",
-          "CET-1CEST,M3.6.0,M10.5.0", "CET-1CEST,M3.5.7,M10.5.0", "CET-1CEST,J0,J300", "CET-1CEST,366,J300",
-          "CET-1CEST,M3.5.0/,M10.5.0", "<+01-1", "CET-1 ", "CET-1:", "CET-1CEST-x,M3.5.0,M10.5.0"}) {
+         {"", "CET", "CE-1", "-1", "CET-1CEST", "CET-1CEST,M3.5.0", "CET-1CEST,M3.5.0,M10.5.0,",
+          "CET-1CEST,M13.5.0,M10.5.0", "CET-1CEST,M3.6.0,M10.5.0", "CET-1CEST,M3.5.7,M10.5.0",
+          "CET-1CEST,J0,J300", "CET-1CEST,366,J300", "CET-1CEST,M3.5.0/,M10.5.0", "<+01-1", "CET-1 ",
+          "CET-1:", "CET-1CEST-x,M3.5.0,M10.5.0"}) {
         EXPECT_FALSE(ZoneRule::parse(rule)) << rule;
     }
 }

@@ -10,15 +10,15 @@ namespace kestrelfen {
 namespace {
 
 constexpr std::int64_t secondsPerDay = 86'400;
-constexpr int samplesPerZone = 60;
+constexpr int samplesPerZone = 100;
 
 /// Every stay in a local day lasts longer than this.
 constexpr std::int64_t walkStep = 30;
 
-constexpr const char* zones[] = {"America/Sao_Paulo", "Asia/Beirut",    "Africa/Cairo",     "America/Havana",
-                                 "Pacific/Apia",      "Europe/Berlin",  "America/St_Johns", "Australia/Lord_Howe",
-                                 "Asia/Kathmandu",    "Asia/Tehran",    "Pacific/Kwajalein", "Europe/Dublin",
-                                 "Africa/Casablanca", "America/Asuncion"};
+constexpr const char* zones[] = {
+    "America/Sao_Paulo", "Asia/Beirut",      "Africa/Cairo",        "America/Havana",  "Pacific/Apia",
+    "Europe/Berlin",     "America/St_Johns", "Australia/Lord_Howe", "Asia/Kathmandu",  "Asia/Tehran",
+    "Pacific/Kwajalein", "Europe/Dublin",    "Africa/Casablanca",   "America/Asuncion"};
 
 std::tm localTime(std::int64_t second) {
     const std::time_t time = second;
@@ -35,7 +35,8 @@ CivilDay localDay(std::int64_t second) {
 /// The first second at which local time shows `day`; where it never does, `day`'s next one.
 std::int64_t firstSecondOf(CivilDay day) {
     const std::int64_t midnight = std::chrono::seconds(day.time_since_epoch()).count();
-    for (std::int64_t walk = midnight - secondsPerDay; walk < midnight + 2 * secondsPerDay; walk += walkStep) {
+    for (std::int64_t walk = midnight - secondsPerDay; walk < midnight + 2 * secondsPerDay;
+         walk += walkStep) {
         if (localDay(walk) == day) {
             std::int64_t first = walk - walkStep + 1;
             while (localDay(first) != day) {
@@ -74,8 +75,8 @@ std::vector<CalendarSample> samples() {
             std::int64_t second = within(begin, end);
             if (index % 2 == 0) {
                 const auto change = within(0, static_cast<std::int64_t>(changing.size()) - 1);
-                second = changing[static_cast<std::size_t>(change)] +
-                         within(-secondsPerDay, 3 * secondsPerDay);
+                second =
+                    changing[static_cast<std::size_t>(change)] + within(-secondsPerDay, 3 * secondsPerDay);
             }
             const Date date = Date::fromMicroseconds(second * 1'000'000 + within(0, 999'999));
             const CivilDay day = localDay(second);

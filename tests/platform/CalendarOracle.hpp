@@ -18,8 +18,8 @@ struct CalendarSample {
 };
 
 /// Samples from 1900 to 2037, half of them anywhere and half within two days of a change of the offset, with
-/// the starts of days found by walking through local time as the C library gives it, a moment after the other.
-/// In the order of the zones. The same in each run.
+/// the starts of days found by walking through local time as the C library gives it, a moment after the
+/// other. In the order of the zones. The same in each run.
 const std::vector<CalendarSample>& calendarSamples();
 
 } // namespace kestrelfen

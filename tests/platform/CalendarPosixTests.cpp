@@ -1,12 +1,12 @@
 #include "platform/CalendarEnvironment.hpp"
 #include "platform/CalendarPrivateEtc.hpp"
 #include "platform/posix/PosixCalendar.hpp"
+#include "support/TemporaryFolder.hpp"
 
 #include <gtest/gtest.h>
 
 #include <ctime>
 #include <filesystem>
-#include <optional>
 #include <sys/mount.h>
 
 namespace kestrelfen {
@@ -66,7 +66,8 @@ TEST_F(PosixCalendarZone, isNotWhatOthersMadeTheLibraryReadInBetween) {
 
 TEST_F(PosixCalendarZone, isUtcForAnUnknownNameAndForNoName) {
     const PosixCalendar calendar;
-    for (const char* const name : {"Europe/Atlantis", "nonsense", "", ":", ":/no/such/file", "/no/such/file"}) {
+    for (const char* const name :
+         {"Europe/Atlantis", "nonsense", "", ":", ":/no/such/file", "/no/such/file"}) {
         ZoneVariable::set("Asia/Tokyo");
         EXPECT_EQ(hourAtNoon(calendar), tokyo);
         ZoneVariable::set(name);
@@ -90,8 +91,8 @@ class PosixCalendarZonePath : public PosixCalendarZone, public testing::WithPara
         ZoneVariable::set(GetParam() + file_);
     }
 
-    ScratchDirectory scratch_;
-    const std::string file_ = scratch_.file("zone");
+    TemporaryFolder folder_;
+    const std::string file_ = folder_ / "zone";
 };
 
 TEST_P(PosixCalendarZonePath, isFollowedWhenAnotherFileTakesItsPlace) {
@@ -127,7 +128,7 @@ TEST_P(PosixCalendarZonePath, isUtcWhileTheFileIsMissing) {
 
 INSTANTIATE_TEST_SUITE_P(Forms, PosixCalendarZonePath, testing::Values("", ":"));
 
-void expectLocaltimeToBeFollowed(const std::string& scratch) {
+void expectLocaltimeToBeFollowed(const std::string& other) {
     const std::string localtime = "/etc/localtime";
     const PosixCalendar calendar;
     EXPECT_EQ(hourAtNoon(calendar), berlin);
@@ -140,7 +141,6 @@ void expectLocaltimeToBeFollowed(const std::string& scratch) {
     writeOver(localtime, "Europe/Berlin");
     EXPECT_EQ(hourAtNoon(calendar), berlin) << "after it was written over";
 
-    const std::string other = scratch + "/other";
     replaceByCopy(other, "Asia/Tokyo");
     ASSERT_EQ(mount(other.c_str(), localtime.c_str(), nullptr, MS_BIND, nullptr), 0);
     EXPECT_EQ(hourAtNoon(calendar), tokyo) << "after a bind mount";
@@ -159,11 +159,11 @@ void expectLocaltimeToBeFollowed(const std::string& scratch) {
 }
 
 TEST_F(PosixCalendarZone, isThatOfLocaltimeWithoutTheVariableAndFollowsItsSwap) {
-    const ScratchDirectory etc;
-    const ScratchDirectory scratch;
-    replaceByLink(etc.file("localtime"), "Europe/Berlin");
+    const TemporaryFolder etc;
+    const TemporaryFolder folder;
+    replaceByLink(etc / "localtime", "Europe/Berlin");
     ZoneVariable::unset();
-    const auto result = runWithEtc(etc.path(), [&] { expectLocaltimeToBeFollowed(scratch.path()); });
+    const auto result = runWithEtc(etc.path(), [&] { expectLocaltimeToBeFollowed(folder / "other"); });
     if (!result) {
         GTEST_SKIP() << "this user may not make a private mount to swap /etc/localtime in";
     }

@@ -1,5 +1,6 @@
 #include "platform/JsonPreferencesFixture.hpp"
 
+#include <bit>
 #include <cmath>
 #include <limits>
 #include <random>
@@ -88,18 +89,30 @@ TEST_F(JsonPreferencesRoundTrip, keepsAnyText) {
     for (char character = 0; character < 127; ++character) {
         everyByteOfAscii += character;
     }
-    for (const std::string& text : {std::string(), everyByteOfAscii, std::string("\x7F"),
-                                    std::string("\"\\/\b\f\n\r\t"), std::string("Grüße, 日本, 😀, \u2028, \uFFFF"),
-                                    std::string(100'000, 'x'), std::string("}{][,:\"")}) {
+    for (const std::string& text :
+         {std::string(), everyByteOfAscii, std::string("\x7F"), std::string("\"\\/\b\f\n\r\t"),
+          std::string("Grüße, 日本, 😀, \u2028, \uFFFF"), std::string(100'000, 'x'),
+          std::string("}{][,:\"")}) {
         expectSameAfterRestart(text);
     }
 }
 
 TEST_F(JsonPreferencesRoundTrip, keepsDataOfAnyLength) {
-    PreferenceData data;
-    for (int length = 0; length < 300; ++length) {
-        expectSameAfterRestart(data);
-        data.push_back(static_cast<std::uint8_t>(length * 7));
+    constexpr std::size_t lengths = 300;
+    const auto first = open();
+    std::vector<PreferenceData> expected(1);
+    while (expected.size() < lengths) {
+        expected.push_back(expected.back());
+        expected.back().push_back(static_cast<std::uint8_t>(expected.size() * 7));
+    }
+    for (std::size_t length = 0; length < lengths; ++length) {
+        first->set(std::to_string(length), expected[length]);
+    }
+    first->flush();
+    const auto second = open();
+    for (std::size_t length = 0; length < lengths; ++length) {
+        ASSERT_NE(second->data(std::to_string(length)), nullptr) << length;
+        EXPECT_EQ(*second->data(std::to_string(length)), expected[length]);
     }
 }
 
@@ -171,7 +184,8 @@ TEST_F(JsonPreferencesFormat, isPlainJsonWithTwoSpacesAndAFinalLineFeed) {
 }
 
 TEST_F(JsonPreferencesFormat, readsWhatAPersonWrites) {
-    const auto preferences = openWith(R"({"debugFastCycle": true, "workIntervalSeconds":60, "idleMode" : "off",
+    const auto preferences =
+        openWith(R"({"debugFastCycle": true, "workIntervalSeconds":60, "idleMode" : "off",
         "lastPrunedDayStart": {"$date": "2026-03-09T00:00:00Z"}, "focusAppBundleIDs": [ "a" ], "real": 1e3})");
     EXPECT_EQ(preferences->boolean("debugFastCycle"), true);
     EXPECT_EQ(preferences->real("workIntervalSeconds"), 60.0);

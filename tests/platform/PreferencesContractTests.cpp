@@ -1,4 +1,3 @@
-#include "base/AllocationCounter.hpp"
 #include "platform/fake/FakeClock.hpp"
 #include "platform/fake/FakeLog.hpp"
 #include "platform/fake/FakeMainQueue.hpp"
@@ -206,19 +205,6 @@ TYPED_TEST(PreferencesContract, aKeyThatIsNotUtf8IsKeptWithReplacementCharacters
     Preferences& preferences = this->preferences();
     preferences.set("k\xFF", true);
     EXPECT_EQ(preferences.boolean("k\uFFFD"), true);
-}
-
-TYPED_TEST(PreferencesContract, aReadTakesNoMemory) {
-    Preferences& preferences = this->preferences();
-    const std::string key = "a key too long to be kept within a string itself";
-    preferences.set(key, 1200.0);
-    preferences.set("list", PreferenceStrings{"one", "two"});
-    const auto before = allocationCount();
-    const auto real = preferences.real(std::string_view(key));
-    const auto* const list = preferences.strings("list");
-    const auto absent = preferences.boolean("another key that is too long for that, and absent");
-    EXPECT_EQ(allocationCount() - before, 0U);
-    EXPECT_TRUE(real && list && !absent);
 }
 
 TYPED_TEST(PreferencesContract, aNumberThatIsNotFiniteIsAFault) {

@@ -25,11 +25,11 @@ BreakEngine& EngineHarness::create() {
     destroyEngine();
     auto smartPause = std::make_unique<FakeSmartPause>();
     smartPause_ = smartPause.get();
-    engine_ = std::make_unique<BreakEngine>(
-        platform.ports(), BreakEngine::Collaborators{.store = hasStore ? &history : nullptr,
-                                                     .systemEvents = makeSystemEvents(),
-                                                     .smartPause = std::move(smartPause),
-                                                     .lockScreen = makeLockScreen()});
+    engine_ = std::make_unique<BreakEngine>(platform.ports(),
+                                            BreakEngine::Collaborators{.store = hasStore ? &history : nullptr,
+                                                                       .systemEvents = makeSystemEvents(),
+                                                                       .smartPause = std::move(smartPause),
+                                                                       .lockScreen = makeLockScreen()});
     listenToEngine();
     return *engine_;
 }

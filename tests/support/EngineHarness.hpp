@@ -29,7 +29,9 @@ class EngineHarness {
     /// Whether the trace tells of onTick.
     bool tracesTicks = false;
 
-    void prefer(std::string_view key, PreferenceValue value) { platform.preferences.set(key, std::move(value)); }
+    void prefer(std::string_view key, PreferenceValue value) {
+        platform.preferences.set(key, std::move(value));
+    }
 
     /// Builds the engine anew, unstarted.
     BreakEngine& create();

@@ -2,9 +2,8 @@
 
 #include <filesystem>
 #include <fstream>
-#include <string>
-
 #include <sched.h>
+#include <string>
 #include <sys/mount.h>
 
 namespace kestrelfen {
@@ -30,7 +29,7 @@ class SmallVolume {
     bool isMounted() const { return isMounted_; }
 
     /// Takes all the room that is left.
-    void fill() const { std::ofstream(filler()) << std::string(128 * 1024, 'x'); }
+    void fill() const { std::ofstream(filler()) << std::string(131'072, 'x'); }
 
     void makeRoom() const { std::filesystem::remove(filler()); }
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <filesystem>
-
 #include <unistd.h>
 
 namespace kestrelfen {

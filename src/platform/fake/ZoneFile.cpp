@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <system_error>
 #include <utility>
 
 namespace kestrelfen {
@@ -52,6 +54,10 @@ struct Head {
 };
 
 std::optional<std::string> contentOf(const std::string& path) {
+    std::error_code ignored;
+    if (!std::filesystem::is_regular_file(path, ignored)) {
+        return std::nullopt;
+    }
     std::ifstream file(path, std::ios::binary);
     std::string content{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
     return file && !content.empty() ? std::optional(std::move(content)) : std::nullopt;

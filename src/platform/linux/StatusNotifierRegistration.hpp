@@ -1,13 +1,11 @@
 #pragma once
 
-#include "platform/ports/Log.hpp"
-
 #include <QDBusConnection>
 #include <QObject>
 
 #include <functional>
 
-class QDBusPendingCallWatcher;
+class QDBusMessage;
 
 namespace kestrelfen {
 
@@ -26,11 +24,9 @@ class StatusNotifierRegistration final : public QObject {
     /// A watcher has the item on its list and a host shows what is on it.
     bool isAccepted() const { return isRegistered_ && hasHost_; }
 
-  private slots:
-    void watcherOwnerChanged(const QString& name, const QString& oldOwner, const QString& newOwner);
-    void askForHost();
-
   private:
+    Q_SLOT void watcherOwnerChanged(const QString& name, const QString& oldOwner, const QString& newOwner);
+    Q_SLOT void askForHost();
     void followWatcher();
     void registerItem();
     void set(bool isRegistered, bool hasHost);

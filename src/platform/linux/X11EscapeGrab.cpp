@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <chrono>
+#include <cstddef>
 #include <utility>
 
 namespace kestrelfen {
@@ -91,7 +92,7 @@ void X11EscapeGrab::readKeycodes() {
         return;
     }
     const xcb_keysym_t* const keysyms = xcb_get_keyboard_mapping_keysyms(mapping.get());
-    for (int key = 0; key < count; ++key) {
+    for (std::ptrdiff_t key = 0; key < count; ++key) {
         if (keysyms[key * mapping->keysyms_per_keycode] == escapeKeysym) {
             keycodes_.push_back(static_cast<xcb_keycode_t>(setup.min_keycode + key));
         }

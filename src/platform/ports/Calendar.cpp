@@ -11,8 +11,8 @@ namespace {
 constexpr std::int64_t secondsPerDay = 86'400;
 
 /// No zone is as far from UTC as this, and none changes its offset twice within the step.
-constexpr std::int64_t furthestOffset = 25 * 3'600;
-constexpr std::int64_t searchStep = 3 * 3'600;
+constexpr std::int64_t furthestOffset = std::int64_t{25} * 3'600;
+constexpr std::int64_t searchStep = std::int64_t{3} * 3'600;
 
 /// A run of whole seconds over which the offset stays the same.
 struct Period {

@@ -36,7 +36,7 @@ class Calendar {
     virtual std::int64_t utcOffset(Date date) const = 0;
 
     /// A number that differs from every earlier one once the zone in force, or its rules, have changed. Asked
-    /// for every date: well below 1 µs.
+    /// for every date: the cost of a stat at most.
     virtual std::uint64_t zoneGeneration() const = 0;
 
   private:

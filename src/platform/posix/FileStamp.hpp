@@ -1,13 +1,12 @@
 #pragma once
 
 #include <string>
-
 #include <sys/stat.h>
 
 namespace kestrelfen {
 
-/// What tells two states of a file apart without reading it. All zero where there is no file. A plain value, for
-/// any thread.
+/// What tells two states of a file apart without reading it. All zero where there is no file. A plain value,
+/// for any thread.
 struct FileStamp {
     dev_t device{};
     ino_t inode{};

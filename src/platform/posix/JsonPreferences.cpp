@@ -4,6 +4,7 @@
 #include "platform/posix/JsonSyntax.hpp"
 #include "platform/posix/StandardFolders.hpp"
 
+#include <algorithm>
 #include <utility>
 
 namespace kestrelfen {
@@ -128,7 +129,10 @@ void JsonPreferences::bar(const std::string& why) {
 }
 
 void JsonPreferences::noteEdit(std::string_view key) {
-    edited_.insert(wellFormedUtf8(std::string(key)));
+    std::string stored = wellFormedUtf8(std::string(key));
+    if (std::find(edited_.begin(), edited_.end(), stored) == edited_.end()) {
+        edited_.push_back(std::move(stored));
+    }
     scheduleWrite();
     notifyObservers();
 }

@@ -9,7 +9,6 @@
 #include "platform/posix/PreferenceFile.hpp"
 
 #include <filesystem>
-#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -79,8 +78,8 @@ class JsonPreferences final : public Preferences {
     PreferenceDocument document_;
     PreferenceStamp stamp_;
     Condition condition_ = Condition::good;
-    /// Keys set or removed here and not written yet.
-    std::set<std::string> edited_;
+    /// Keys set or removed here and not written yet, in the order in which that began.
+    std::vector<std::string> edited_;
     /// The file is gone because it was damaged, and the document is to be written anew.
     bool mustRestore_ = false;
     bool writeIsScheduled_ = false;

@@ -15,7 +15,7 @@ std::string zoneFile(const std::optional<std::string>& variable) {
     if (!variable) {
         return "/etc/localtime";
     }
-    const std::string name = variable->starts_with(':') ? variable->substr(1) : *variable;
+    std::string name = variable->starts_with(':') ? variable->substr(1) : *variable;
     if (name.starts_with('/')) {
         return name;
     }

@@ -12,7 +12,7 @@ namespace kestrelfen {
 
 namespace {
 
-constexpr off_t largestFile = 64 * 1024 * 1024;
+constexpr off_t largestFile = 64'000'000;
 constexpr int mostLinks = 40;
 constexpr mode_t privateFile = 0600;
 

@@ -10,7 +10,8 @@ class BreakEngine;
 /// What the buttons of the warning card do. Main thread only.
 class PreBreakWarningActions {
   public:
-    PreBreakWarningActions(BreakEngine& engine, const Platform& platform) : engine_(engine), platform_(platform) {}
+    PreBreakWarningActions(BreakEngine& engine, const Platform& platform)
+        : engine_(engine), platform_(platform) {}
 
     void dismiss();
     void snooze(SnoozeOption option);

@@ -1,0 +1,113 @@
+# shellcheck shell=bash disable=SC2034
+# What has to be installed, and installing it. Debian and Ubuntu only; elsewhere the packages are named.
+
+packages_to_build=(
+    g++ cmake ninja-build pkg-config
+    qt6-base-dev qt6-declarative-dev qt6-declarative-dev-tools libgl-dev
+    qml6-module-qtqml qml6-module-qtqml-workerscript qml6-module-qtquick qml6-module-qtquick-window
+    libxcb1-dev libxcb-screensaver0-dev nlohmann-json3-dev
+)
+packages_to_start=(fonts-inter fonts-jetbrains-mono tzdata)
+packages_for_wayland=(qt6-wayland)
+packages_to_reach_a_display=(x11-utils)
+packages_for_a_virtual_display=(xvfb openbox tint2 dunst dbus imagemagick x11-utils)
+packages_to_test=(
+    libgtest-dev libgmock-dev libbenchmark-dev clang-format
+    xvfb openbox tint2 dunst dbus at-spi2-core xterm xdotool x11-utils x11-xserver-utils imagemagick
+    python3 python3-dbus python3-dbusmock python3-gi python3-pyatspi
+)
+packages_to_tidy=(clang-tidy)
+
+fedora_packages="gcc-c++ cmake ninja-build pkgconf qt6-qtbase-devel qt6-qtdeclarative-devel qt6-qtwayland \
+libxcb-devel json-devel rsms-inter-fonts jetbrains-mono-fonts xorg-x11-server-Xvfb openbox tint2 dunst \
+dbus-daemon ImageMagick xdpyinfo gtest-devel gmock-devel google-benchmark-devel clang-tools-extra at-spi2-core xterm \
+xdotool xset xrandr xprop python3-dbus python3-dbusmock python3-gobject python3-pyatspi"
+arch_packages="gcc cmake ninja pkgconf qt6-base qt6-declarative qt6-wayland libxcb nlohmann-json inter-font \
+ttf-jetbrains-mono xorg-server-xvfb openbox tint2 dunst dbus imagemagick xorg-xdpyinfo gtest benchmark clang \
+at-spi2-core xterm xdotool xorg-xset xorg-xrandr xorg-xprop python-dbus python-dbusmock python-gobject python-atspi"
+
+# Prints those of the packages that are not installed.
+missing_packages() {
+    local installed
+    installed=$(dpkg-query --show --showformat='${db:Status-Status} ${Package}\n' "$@" 2>/dev/null |
+        sed -n 's/^installed //p') || true
+    printf '%s\n' "$@" | sort -u | grep -vxF -e "$installed" || true
+}
+
+# require_packages PACKAGE…: installs what is missing, or tells what is and ends with 1.
+require_packages() {
+    if ! command -v apt-get >/dev/null || ! command -v dpkg-query >/dev/null; then
+        require_tools
+        return
+    fi
+    local missing
+    mapfile -t missing < <(missing_packages "$@")
+    if [ "${#missing[@]}" -eq 0 ]; then
+        return
+    fi
+    if [ -n "${NO_INSTALL:-}" ]; then
+        tell_missing "not installed, and NO_INSTALL is set" "${missing[@]}"
+    fi
+    install_packages "${missing[@]}"
+}
+
+tell_missing() {
+    local why=$1
+    shift
+    {
+        echo "Missing ($why): $*"
+        echo "Install with:"
+        echo "  sudo apt-get update && sudo apt-get install --no-install-recommends $*"
+    } >&2
+    exit 1
+}
+
+install_packages() {
+    local become_root=()
+    if [ "$(id -u)" -ne 0 ]; then
+        command -v sudo >/dev/null || tell_missing "you are not root and there is no sudo" "$@"
+        become_root=(sudo)
+        [ -t 0 ] || become_root=(sudo -n)
+        "${become_root[@]}" true || tell_missing "sudo does not let you install them" "$@"
+    fi
+    become_root+=(env DEBIAN_FRONTEND=noninteractive NEEDRESTART_MODE=l)
+    echo "Installing $# packages and what they need; this may take some minutes: $*"
+    local log
+    log=$(mktemp)
+    if ! apt_install "$@" >"$log" 2>&1 </dev/null; then
+        tail -n 20 "$log" >&2
+        rm -f "$log"
+        tell_missing "apt could not install them, see above" "$@"
+    fi
+    rm -f "$log"
+}
+
+# The lists are fetched anew: an old one names versions that are gone. Without a network the packages may still lie
+# in the cache.
+apt_install() {
+    local wait_for_others=(-o DPkg::Lock::Timeout=300)
+    "${become_root[@]}" apt-get "${wait_for_others[@]}" update || true
+    "${become_root[@]}" apt-get "${wait_for_others[@]}" install --yes --no-install-recommends "$@"
+}
+
+# Where there is no apt: goes on if everything to build with is there already.
+require_tools() {
+    local tool lacking=()
+    for tool in c++ cmake ninja pkg-config; do
+        command -v "$tool" >/dev/null || lacking+=("$tool")
+    done
+    for tool in Qt6Core Qt6Quick xcb-screensaver nlohmann_json; do
+        pkg-config --exists "$tool" 2>/dev/null || lacking+=("$tool")
+    done
+    if [ "${#lacking[@]}" -eq 0 ]; then
+        return
+    fi
+    {
+        echo "Missing: ${lacking[*]}"
+        echo "Packages can be installed by this script on Debian and Ubuntu only. They are"
+        echo "  on Debian: ${packages_to_build[*]} ${packages_to_start[*]} ${packages_to_test[*]}"
+        echo "  on Fedora: $fedora_packages"
+        echo "  on Arch:   $arch_packages"
+    } >&2
+    exit 1
+}

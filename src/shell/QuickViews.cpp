@@ -1,0 +1,41 @@
+#include "shell/QuickViews.hpp"
+
+#include <QFont>
+#include <QGuiApplication>
+#include <QPainterPath>
+#include <QQuickItem>
+#include <QUrl>
+#include <QtQml/QQmlExtensionPlugin>
+
+Q_IMPORT_QML_PLUGIN(KestrelfenPlugin)
+
+namespace kestrelfen {
+
+void QuickViews::prepare() {
+    if (engine_) {
+        return;
+    }
+    QFont font(QGuiApplication::font());
+    font.setFamilies({QStringLiteral("Inter"), QStringLiteral("Noto Sans"), QStringLiteral("DejaVu Sans")});
+    QGuiApplication::setFont(font);
+    appearance_ = std::make_unique<Appearance>(preferences_);
+    engine_ = std::make_unique<QQmlEngine>();
+    engine_->addImportPath(QStringLiteral("qrc:/qt/qml"));
+}
+
+std::unique_ptr<QQuickView> QuickViews::make(const QString& view, const QVariantMap& properties) {
+    prepare();
+    auto window = std::make_unique<QQuickView>(engine_.get(), nullptr);
+    window->setInitialProperties(properties);
+    window->setSource(QUrl(QStringLiteral("qrc:/qt/qml/Kestrelfen/") + view));
+    return window;
+}
+
+void QuickViews::cutToCard(QQuickView& window) {
+    const double radius = window.rootObject()->property("radius").toDouble();
+    QPainterPath outline;
+    outline.addRoundedRect(QRectF(QPointF(), window.size()), radius, radius);
+    window.setMask(QRegion(outline.toFillPolygon().toPolygon()));
+}
+
+} // namespace kestrelfen

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "ui/GlassComponents/Appearance.hpp"
+
+#include <QQmlEngine>
+#include <QQuickView>
+#include <QString>
+#include <QVariantMap>
+
+#include <memory>
+
+namespace kestrelfen {
+
+/// Makes the windows that show a view. The QML engine and the fonts come with the first of them, as they cost
+/// memory. Main thread only.
+class QuickViews {
+  public:
+    explicit QuickViews(Preferences& preferences) : preferences_(preferences) {}
+
+    /// A window over the view of that file name, with its required properties; not yet shown. The windows
+    /// must go before this object.
+    std::unique_ptr<QQuickView> make(const QString& view, const QVariantMap& properties);
+
+    /// Cuts a window to a card that fills it, for a desktop that cannot blend.
+    static void cutToCard(QQuickView& window);
+
+  private:
+    void prepare();
+
+    Preferences& preferences_;
+    std::unique_ptr<Appearance> appearance_;
+    std::unique_ptr<QQmlEngine> engine_;
+};
+
+} // namespace kestrelfen

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "platform/ports/Platform.hpp"
+#include "shell/OverlayWindows.hpp"
+#include "ui/PreBreakWarningView/PreBreakWarningModel.hpp"
+
+#include <QObject>
+#include <QPoint>
+#include <QQuickView>
+
+namespace kestrelfen {
+
+class QuickViews;
+
+/// The warning card, which floats, never takes the focus and is dragged by its body. Main thread only.
+class QuickWarningPanel final : public QObject, public OverlayWindows::WarningPanel {
+    Q_OBJECT
+
+  public:
+    QuickWarningPanel(BreakEngine& engine, const Platform& platform, QuickViews& views, bool blended);
+
+    int width() const override { return view_->width(); }
+    int height() const override { return view_->height(); }
+    void moveTo(int x, int y) override { view_->setPosition(x, y); }
+    void show() override;
+
+  private slots:
+    void beginDrag();
+    void drag();
+
+  private:
+    PreBreakWarningModel model_;
+    std::unique_ptr<QQuickView> view_;
+    QPoint grip_;
+};
+
+} // namespace kestrelfen

@@ -1,0 +1,5 @@
+#include "shell/KestrelfenApp.hpp"
+
+int main(int argumentCount, char** arguments) {
+    return kestrelfen::KestrelfenApp(argumentCount, arguments).run();
+}

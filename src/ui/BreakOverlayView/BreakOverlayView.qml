@@ -1,0 +1,100 @@
+import QtQuick
+import Kestrelfen
+
+/// What covers a display during a break.
+Item {
+    id: view
+
+    required property BreakOverlayModel model
+
+    Accessible.role: Accessible.Pane
+    Accessible.name: model.title
+
+    Wash {
+        anchors.fill: parent
+        first: Glass.wallpaper2
+        second: Glass.wallpaper1
+        third: Glass.wallpaper4
+        blur: Glass.dark ? "#2410191e" : "#24f6fafa"
+        veil: Glass.glass2
+    }
+
+    Column {
+        id: column
+        anchors.centerIn: parent
+        spacing: view.model.isLong ? 24 : 26
+
+        Text {
+            anchors.horizontalCenter: parent.horizontalCenter
+            visible: view.model.isLong
+            text: view.model.eyebrow.toUpperCase()
+            color: Glass.accent
+            font.family: Appearance.monospaced
+            font.pixelSize: 11
+            font.weight: Font.Medium
+            font.letterSpacing: 2
+        }
+
+        BreathingRing {
+            anchors.horizontalCenter: parent.horizontalCenter
+            isLong: view.model.isLong
+            remaining: view.model.ringRemaining
+            label: view.model.ringLabel
+        }
+
+        Column {
+            anchors.horizontalCenter: parent.horizontalCenter
+            width: 560
+            spacing: 11
+
+            Text {
+                width: parent.width
+                horizontalAlignment: Text.AlignHCenter
+                text: view.model.title
+                color: Glass.ink
+                font.pixelSize: 31
+                font.weight: Font.DemiBold
+                font.letterSpacing: -0.9
+            }
+
+            Text {
+                width: parent.width
+                horizontalAlignment: Text.AlignHCenter
+                wrapMode: Text.WordWrap
+                text: view.model.body
+                color: Glass.slate
+                font.pixelSize: 15
+                lineHeight: 1.35
+            }
+        }
+
+        CadenceIndicator {
+            anchors.horizontalCenter: parent.horizontalCenter
+            visible: view.model.isLong
+            dots: view.model.cadenceDots
+            text: view.model.cadenceText
+            skippable: view.model.cadenceSkip
+            onSkipped: view.model.skip()
+        }
+
+        Row {
+            anchors.horizontalCenter: parent.horizontalCenter
+            spacing: 12
+
+            Repeater {
+                model: view.model.controls
+                delegate: BreakOverlayButton {
+                    onChosen: key => view.model.press(key)
+                }
+            }
+
+            Text {
+                anchors.verticalCenter: parent.verticalCenter
+                visible: text !== ""
+                text: view.model.coverageNote
+                color: Glass.faint
+                font.pixelSize: 11
+            }
+        }
+    }
+}

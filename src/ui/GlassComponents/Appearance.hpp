@@ -1,0 +1,48 @@
+#pragma once
+
+#include "base/Observable.hpp"
+#include "platform/ports/Preferences.hpp"
+
+#include <QObject>
+#include <QtQml/qqmlregistration.h>
+
+class QJSEngine;
+class QQmlEngine;
+
+namespace kestrelfen {
+
+/// Light or dark, by the person's choice or else the desktop's. One for the program, on the main thread.
+class Appearance : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_SINGLETON
+    Q_PROPERTY(bool dark READ dark NOTIFY darkChanged)
+    Q_PROPERTY(QString monospaced READ monospaced CONSTANT)
+
+  public:
+    explicit Appearance(Preferences& preferences);
+    ~Appearance() override;
+
+    bool dark() const { return dark_; }
+
+    /// The family for running digits and eyebrows.
+    QString monospaced() const { return monospaced_; }
+
+    static Appearance* create(QQmlEngine* engine, QJSEngine* scriptEngine);
+
+  signals:
+    void darkChanged();
+
+  protected:
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+  private:
+    void refresh();
+
+    Preferences& preferences_;
+    Subscription subscription_;
+    bool dark_ = false;
+    QString monospaced_;
+};
+
+} // namespace kestrelfen

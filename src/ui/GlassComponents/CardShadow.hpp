@@ -1,0 +1,40 @@
+#pragma once
+
+#include "ui/GlassComponents/PictureItem.hpp"
+
+#include <QColor>
+#include <QtQml/qqmlregistration.h>
+
+namespace kestrelfen {
+
+/// The shadow of a rounded card, cut out where the card lies so that a translucent card stays clean. The item
+/// fills the window; `card` is the place of the card in it.
+class CardShadow : public PictureItem {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(QRectF card MEMBER card_ WRITE setCard NOTIFY lookChanged)
+    Q_PROPERTY(double radius MEMBER radius_ NOTIFY lookChanged)
+    Q_PROPERTY(double blur MEMBER blur_ NOTIFY lookChanged)
+    Q_PROPERTY(double drop MEMBER drop_ NOTIFY lookChanged)
+    Q_PROPERTY(double strength MEMBER strength_ NOTIFY lookChanged)
+
+  public:
+    using PictureItem::PictureItem;
+
+    void setCard(const QRectF& card);
+
+  signals:
+    void lookChanged();
+
+  protected:
+    QImage makePicture(const QSizeF& size, double ratio) const override;
+
+  private:
+    QRectF card_;
+    double radius_ = 18;
+    double blur_ = 18;
+    double drop_ = 8;
+    double strength_ = 0.22;
+};
+
+} // namespace kestrelfen

@@ -1,0 +1,41 @@
+import QtQuick
+import Kestrelfen
+
+/// A floating card with its shadow, in a window of its own. Where the desktop cannot blend, the window is cut to the
+/// card and there is no shadow.
+Item {
+    id: card
+
+    required property bool blended
+    property int radius: 18
+    property color fill: Glass.hudFill
+    default property alias content: body.data
+
+    readonly property int sideRoom: blended ? 18 : 0
+    readonly property int topRoom: blended ? 10 : 0
+    readonly property int bottomRoom: blended ? 26 : 0
+
+    implicitWidth: body.implicitWidth + 2 * sideRoom
+    implicitHeight: body.implicitHeight + topRoom + bottomRoom
+
+    CardShadow {
+        anchors.fill: parent
+        visible: card.blended
+        card: Qt.rect(body.x, body.y, body.width, body.height)
+        radius: card.radius
+    }
+
+    Rectangle {
+        id: body
+        x: card.sideRoom
+        y: card.topRoom
+        width: implicitWidth
+        height: implicitHeight
+        implicitWidth: childrenRect.width
+        implicitHeight: childrenRect.height
+        radius: card.radius
+        color: card.blended ? card.fill : Qt.rgba(card.fill.r, card.fill.g, card.fill.b, 1)
+        border.width: 1
+        border.color: Glass.hudBorder
+    }
+}

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "ui/GlassComponents/PictureItem.hpp"
+
+#include <QColor>
+#include <QtQml/qqmlregistration.h>
+
+namespace kestrelfen {
+
+/// An opaque diagonal gradient of three colours under two veils, with noise of less than one step against
+/// banding.
+class Wash : public PictureItem {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(QColor first MEMBER first_ WRITE setFirst NOTIFY lookChanged)
+    Q_PROPERTY(QColor second MEMBER second_ WRITE setSecond NOTIFY lookChanged)
+    Q_PROPERTY(QColor third MEMBER third_ WRITE setThird NOTIFY lookChanged)
+    Q_PROPERTY(QColor blur MEMBER blur_ WRITE setBlur NOTIFY lookChanged)
+    Q_PROPERTY(QColor veil MEMBER veil_ WRITE setVeil NOTIFY lookChanged)
+
+  public:
+    using PictureItem::PictureItem;
+
+    void setFirst(const QColor& color) { take(first_, color); }
+    void setSecond(const QColor& color) { take(second_, color); }
+    void setThird(const QColor& color) { take(third_, color); }
+    void setBlur(const QColor& color) { take(blur_, color); }
+    void setVeil(const QColor& color) { take(veil_, color); }
+
+  signals:
+    void lookChanged();
+
+  protected:
+    QImage makePicture(const QSizeF& size, double ratio) const override;
+
+  private:
+    void take(QColor& member, const QColor& color);
+
+    QColor first_;
+    QColor second_;
+    QColor third_;
+    QColor blur_;
+    QColor veil_;
+};
+
+} // namespace kestrelfen

@@ -1,0 +1,80 @@
+#include "SimulatorRun.hpp"
+
+#include "support/TemporaryFolder.hpp"
+
+#include <fcntl.h>
+#include <spawn.h>
+#include <sstream>
+#include <stdexcept>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace kestrelfen {
+
+namespace {
+
+/// The standard streams of the program, as files in a folder.
+class Streams {
+  public:
+    explicit Streams(const TemporaryFolder& folder) {
+        posix_spawn_file_actions_init(&actions_);
+        open(STDIN_FILENO, folder / "input", O_RDONLY);
+        open(STDOUT_FILENO, folder / "output", O_WRONLY | O_CREAT);
+        open(STDERR_FILENO, folder / "errors", O_WRONLY | O_CREAT);
+    }
+    Streams(const Streams&) = delete;
+    Streams& operator=(const Streams&) = delete;
+    ~Streams() { posix_spawn_file_actions_destroy(&actions_); }
+
+    const posix_spawn_file_actions_t* actions() const { return &actions_; }
+
+  private:
+    void open(int descriptor, const std::filesystem::path& file, int flags) {
+        posix_spawn_file_actions_addopen(&actions_, descriptor, file.c_str(), flags, 0600);
+    }
+
+    posix_spawn_file_actions_t actions_{};
+};
+
+int statusOf(std::vector<std::string> words, const Streams& streams) {
+    std::vector<char*> arguments;
+    for (std::string& word : words) {
+        arguments.push_back(word.data());
+    }
+    arguments.push_back(nullptr);
+    pid_t process = 0;
+    if (posix_spawn(&process, words.front().c_str(), streams.actions(), nullptr, arguments.data(), environ) !=
+        0) {
+        throw std::runtime_error("the simulator cannot be started");
+    }
+    int status = 0;
+    waitpid(process, &status, 0);
+    return WIFSIGNALED(status) ? 128 + WTERMSIG(status) : WEXITSTATUS(status);
+}
+
+} // namespace
+
+SimulatorRun runSimulator(const std::vector<std::string>& arguments, std::string_view input) {
+    const TemporaryFolder folder;
+    writeInPlace(folder / "input", input);
+    const Streams streams(folder);
+    std::vector<std::string> words{KESTRELFEN_SIMULATOR};
+    words.insert(words.end(), arguments.begin(), arguments.end());
+    const int status = statusOf(std::move(words), streams);
+    return {status, contentOf(folder / "output"), contentOf(folder / "errors")};
+}
+
+SimulatorRun simulate(std::string_view scenario) {
+    return runSimulator({}, scenario);
+}
+
+std::vector<std::string> linesOf(const std::string& text) {
+    std::vector<std::string> lines;
+    std::istringstream stream(text);
+    for (std::string line; std::getline(stream, line);) {
+        lines.push_back(line);
+    }
+    return lines;
+}
+
+} // namespace kestrelfen
