@@ -5,9 +5,9 @@ set(KESTRELFEN_WARNINGS
 if(KESTRELFEN_WERROR)
     list(APPEND KESTRELFEN_WARNINGS -Werror)
 endif()
-# GCC 12 sees overlaps in the standard library's own string code where there are none.
+# GCC 12 sees overlaps in the standard library's strings, and unset values in its optionals, where there are none.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-    list(APPEND KESTRELFEN_WARNINGS -Wno-restrict)
+    list(APPEND KESTRELFEN_WARNINGS -Wno-restrict -Wno-maybe-uninitialized)
 endif()
 
 add_library(kestrelfen_sanitizers INTERFACE)

@@ -40,8 +40,8 @@ TEST(Lifeline, aLaterOwnerAtTheSamePlaceDoesNotReviveIt) {
 TEST(Lifeline, theArgumentsReachTheClosure) {
     const Lifeline lifeline;
     std::string heard;
-    auto guarded =
-        lifeline.guard([&heard](const std::string& text, int number) { heard = text + std::to_string(number); });
+    auto guarded = lifeline.guard(
+        [&heard](const std::string& text, int number) { heard = text + std::to_string(number); });
     guarded(std::string("take "), 5);
     EXPECT_EQ(heard, "take 5");
 }

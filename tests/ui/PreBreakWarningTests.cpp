@@ -28,15 +28,7 @@ TEST_F(PreBreakWarningTest, RoundsUpAndKeepsThePlural) {
 }
 
 TEST_F(PreBreakWarningTest, NeverGoesBelowZero) {
-    enterWarning(0.5);
-    setQuota("snoozesPerDay", 0);
-    engine().pause(PauseReason::manual);
-    pass(60);
-    engine().resume(now());
-    tick();
-    EXPECT_EQ(content().counter, 1);
-    prefer("preBreakWarningLeadSeconds", 0.0);
-    create();
+    beginBreak();
     EXPECT_EQ(content().counter, 0);
     EXPECT_EQ(content().title, "Break in 0 seconds");
 }
@@ -52,10 +44,9 @@ TEST_F(PreBreakWarningTest, BarFillsUpAsTheBreakNears) {
 
 TEST_F(PreBreakWarningTest, BarStaysWithinItsEnds) {
     start();
-    EXPECT_DOUBLE_EQ(content().fraction, 0.0) << "20 minutes left of a lead of 10 seconds";
-    platform.clock.set(*engine().nextBreakAt() + 100.0);
-    engine().pause(PauseReason::manual);
-    EXPECT_DOUBLE_EQ(content().fraction, 0.0);
+    EXPECT_DOUBLE_EQ(content().fraction, 0.0) << "20 minutes are left of a lead of 10 seconds";
+    beginBreak();
+    EXPECT_DOUBLE_EQ(content().fraction, 1.0);
 }
 
 TEST_F(PreBreakWarningTest, BarIsFullWithoutALead) {

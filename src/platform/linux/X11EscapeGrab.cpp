@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <chrono>
 #include <cstddef>
 #include <utility>
 
@@ -20,9 +19,6 @@ constexpr int errorType = 0;
 constexpr std::array<std::uint16_t, 4> ignoredModifiers{0, XCB_MOD_MASK_LOCK, XCB_MOD_MASK_2,
                                                         XCB_MOD_MASK_LOCK | XCB_MOD_MASK_2};
 
-/// Shorter than a finger needs between two presses.
-constexpr std::chrono::milliseconds releaseWaitPeriod{25};
-
 template <typename Event>
 const Event& as(const xcb_generic_event_t& event) {
     return reinterpret_cast<const Event&>(event);
@@ -36,12 +32,9 @@ X11EscapeGrab::X11EscapeGrab(Logger log, std::function<void()> pressed)
         log_.error("Escape is not heard: there is no X server");
         return;
     }
-    QObject::connect(&releaseWait_, &QTimer::timeout, &releaseWait_, [this] { waitForRelease(); });
     readKeycodes();
     grabKeys();
-    waitForRelease();
-    connection_.listen([this](const xcb_generic_event_t& event) { handle(event); },
-                       [this] { releaseWait_.stop(); });
+    connection_.listen([this](const xcb_generic_event_t& event) { handle(event); }, [] {});
 }
 
 void X11EscapeGrab::handle(const xcb_generic_event_t& event) {
@@ -64,9 +57,10 @@ void X11EscapeGrab::handle(const xcb_generic_event_t& event) {
 }
 
 void X11EscapeGrab::handlePress(const xcb_key_press_event_t& event) {
-    // The server tells a repetition as a release and a press of the same instant.
+    // The server tells a repetition as a release and a press of the same instant, and so it does of a key
+    // that was down before the grab.
     const bool isRepetition = event.time == lastRelease_;
-    if (isRepetition || !isEscape(event.detail) || releaseWait_.isActive()) {
+    if (isRepetition || !isEscape(event.detail)) {
         return;
     }
     const auto pressed = pressed_;
@@ -117,26 +111,6 @@ void X11EscapeGrab::regrabKeys() {
 
 bool X11EscapeGrab::isEscape(xcb_keycode_t keycode) const {
     return std::find(keycodes_.begin(), keycodes_.end(), keycode) != keycodes_.end();
-}
-
-bool X11EscapeGrab::isHeld() const {
-    const XPointer<xcb_query_keymap_reply_t> keymap(
-        xcb_query_keymap_reply(connection_.raw(), xcb_query_keymap(connection_.raw()), nullptr));
-    const auto isDown = [&keymap](xcb_keycode_t keycode) {
-        return (keymap->keys[keycode / 8] & (1 << keycode % 8)) != 0;
-    };
-    return keymap && std::any_of(keycodes_.begin(), keycodes_.end(), isDown);
-}
-
-/// The release of a key that was down before the grab goes to the program that had the focus, and its
-/// repetitions come here without one: only the keyboard itself tells when it is up.
-void X11EscapeGrab::waitForRelease() {
-    if (isHeld()) {
-        releaseWait_.start(releaseWaitPeriod);
-    } else {
-        releaseWait_.stop();
-    }
-    connection_.flush();
 }
 
 } // namespace kestrelfen

@@ -4,8 +4,6 @@
 #include "platform/ports/EscapeKey.hpp"
 #include "platform/ports/Log.hpp"
 
-#include <QTimer>
-
 #include <functional>
 #include <vector>
 
@@ -24,8 +22,6 @@ class X11EscapeGrab final : public EscapeKey::Handle {
     void grabKeys();
     void regrabKeys();
     bool isEscape(xcb_keycode_t keycode) const;
-    bool isHeld() const;
-    void waitForRelease();
 
     Logger log_;
     std::function<void()> pressed_;
@@ -33,8 +29,6 @@ class X11EscapeGrab final : public EscapeKey::Handle {
     std::vector<xcb_keycode_t> keycodes_;
     xcb_timestamp_t lastRelease_ = XCB_CURRENT_TIME;
     bool refused_ = false;
-    /// Runs only while a key that was down before the grab is still down.
-    QTimer releaseWait_;
 };
 
 } // namespace kestrelfen
