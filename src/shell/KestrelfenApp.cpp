@@ -158,7 +158,6 @@ int KestrelfenApp::run() {
     preferSoftwareRenderer();
     QGuiApplication application(argumentCount_, arguments_);
     QGuiApplication::setApplicationName(QStringLiteral("kestrelfen"));
-    QGuiApplication::setApplicationDisplayName(QStringLiteral("Kestrelfen"));
     QGuiApplication::setDesktopFileName(QStringLiteral("app.kestrelfen.Kestrelfen"));
     QGuiApplication::setQuitOnLastWindowClosed(false);
     parts_ = std::make_unique<Parts>();

@@ -203,5 +203,16 @@ TEST_F(BreakTest, ABreakCompletedWithoutABeginningIsRecordedFromItsEnd) {
                      "day 2026-03-09"}));
 }
 
+TEST_F(BreakTest, ARecordedBreakLeavesNoBeginningBehind) {
+    beActive();
+    startBreak();
+    tickAt("08:20:20");
+    pass(60);
+    engine().completeBreak(now());
+    settle();
+    EXPECT_EQ(history.breaks().at(1).startedAt, at("08:21:20"));
+    forget();
+}
+
 } // namespace
 } // namespace kestrelfen

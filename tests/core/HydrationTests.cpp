@@ -164,6 +164,17 @@ TEST_F(HydrationTest, ABreakThatEndedJustBeforeTheRolloverIsNotOfTheNewDay) {
     EXPECT_EQ(counts(), "0 and 0");
 }
 
+TEST_F(HydrationTest, ABreakOfAnotherDayThatIsStillToBeWrittenDoesNotCount) {
+    jumpTo("23:59:59");
+    start();
+    complete();
+    tickOnlyAt("2026-03-10 00:00:00");
+    std::string seen;
+    engine().hydrate([&] { seen = counts(); });
+    settle();
+    EXPECT_EQ(seen, "0 and 0");
+}
+
 TEST_F(HydrationTest, ABreakOfADayThatIsLeftAndComesBackIsCountedOnce) {
     jumpTo("23:59:59");
     start();

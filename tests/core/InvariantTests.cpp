@@ -9,7 +9,7 @@
 namespace kestrelfen {
 namespace {
 
-constexpr std::uint64_t seeds = 250;
+constexpr std::uint64_t seeds = 150;
 constexpr int stepsOfASeed = 250;
 
 void expectPhase(const BreakEngine& engine) {

@@ -35,6 +35,15 @@ TEST_F(RolloverTest, ZeroesTheCountsTellsTheNewDayAndAsksTheStore) {
                                  "2026-03-10 00:00:00 log hydrated day 2026-03-10: 0 completed, 0 skipped"}));
 }
 
+TEST_F(RolloverTest, ComesAfterNowHasMoved) {
+    start();
+    std::string seen;
+    engine().onDayRollover = [&](Date) { seen = momentText(engine().now()); };
+    tickAt("2026-03-10 08:00:00");
+    EXPECT_EQ(seen, "2026-03-10 08:00:00");
+    forget();
+}
+
 TEST_F(RolloverTest, ComesAtMidnightAndNotBefore) {
     prefer("workIntervalSeconds", 86'400.0);
     start();

@@ -186,5 +186,15 @@ TEST_F(SnoozeTest, ThatFollowsAPauseOfTheBreakForgetsThePause) {
     forget();
 }
 
+TEST_F(SnoozeTest, LeavesNoBeginningOfTheDroppedBreakBehind) {
+    startBreak();
+    engine().snooze(60, now());
+    pass(10);
+    engine().completeBreak(now());
+    settle();
+    EXPECT_EQ(history.breaks().at(0).startedAt, at("08:20:10"));
+    forget();
+}
+
 } // namespace
 } // namespace kestrelfen

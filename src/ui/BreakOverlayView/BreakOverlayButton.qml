@@ -8,6 +8,7 @@ GlassButton {
     required property int key
     required property string text
     required property bool offered
+    required spokenLabel
 
     signal chosen(int key)
 

@@ -28,6 +28,8 @@ Item {
             anchors.horizontalCenter: parent.horizontalCenter
             visible: view.model.isLong
             text: view.model.eyebrow.toUpperCase()
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
             color: Glass.accent
             font.family: Appearance.monospaced
             font.pixelSize: 11
@@ -51,6 +53,8 @@ Item {
                 width: parent.width
                 horizontalAlignment: Text.AlignHCenter
                 text: view.model.title
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
                 color: Glass.ink
                 font.pixelSize: 31
                 font.weight: Font.DemiBold
@@ -62,6 +66,8 @@ Item {
                 horizontalAlignment: Text.AlignHCenter
                 wrapMode: Text.WordWrap
                 text: view.model.body
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
                 color: Glass.slate
                 font.pixelSize: 15
                 lineHeight: 1.35
@@ -92,6 +98,8 @@ Item {
                 anchors.verticalCenter: parent.verticalCenter
                 visible: text !== ""
                 text: view.model.coverageNote
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
                 color: Glass.faint
                 font.pixelSize: 11
             }

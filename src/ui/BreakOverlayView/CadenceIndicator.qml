@@ -66,6 +66,8 @@ Rectangle {
         Text {
             anchors.verticalCenter: parent.verticalCenter
             text: indicator.text
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
             color: Glass.slate
             font.pixelSize: 12
         }

@@ -9,6 +9,8 @@ Column {
 
     Text {
         text: header.model.eyebrow.toUpperCase()
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text
         color: Glass.faint
         font.family: Appearance.monospaced
         font.pixelSize: 10
@@ -19,6 +21,8 @@ Column {
     Text {
         topPadding: 5
         text: header.model.value
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text
         color: Glass.ink
         font.pixelSize: 16
         font.weight: Font.DemiBold
@@ -30,6 +34,8 @@ Column {
         topPadding: 4
         wrapMode: Text.WordWrap
         text: header.model.caption
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text
         color: Glass.slate
         font.pixelSize: 12
     }
@@ -60,6 +66,8 @@ Column {
 
             Text {
                 text: header.model.cycleText
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
                 color: Glass.slate
                 font.pixelSize: 11
             }

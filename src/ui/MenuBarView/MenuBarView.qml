@@ -52,6 +52,7 @@ HudCard {
                     required property int key
                     required property string text
                     required property bool offered
+                    required spokenLabel
                     readonly property bool isProminent: key === view.model.prominentKey
 
                     width: 98.66

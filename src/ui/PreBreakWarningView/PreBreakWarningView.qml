@@ -56,6 +56,8 @@ HudCard {
 
                 Text {
                     text: view.model.title
+                    Accessible.role: Accessible.StaticText
+                    Accessible.name: text
                     color: Glass.ink
                     font.pixelSize: 15
                     font.weight: Font.DemiBold
@@ -63,6 +65,8 @@ HudCard {
 
                 Text {
                     text: view.model.caption
+                    Accessible.role: Accessible.StaticText
+                    Accessible.name: text
                     color: Glass.slate
                     font.pixelSize: 12
                 }
@@ -93,6 +97,8 @@ HudCard {
             anchors.horizontalCenter: parent.horizontalCenter
             visible: text !== ""
             text: view.model.hint
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
             color: Glass.faint
             font.pixelSize: 10
             bottomPadding: 12

@@ -26,6 +26,7 @@ Row {
 
             required property int key
             required property string text
+            required spokenLabel
             readonly property bool isStart: key === row.startKey
             readonly property bool isWide: isStart || key === row.dismissKey
 

@@ -1,0 +1,105 @@
+"""A whole cycle of ten seconds of work and five of a break, as it looks and as it is told."""
+
+import re
+import time
+import unittest
+
+from scaffold import DesktopTest, until
+from scaffold.desktop import LEFT, RIGHT
+from scaffold.panel import Panel
+from scaffold.program import Program
+from scaffold.terminal import Terminal
+
+FAST = {"debugFastCycle": True, "idleMode": "off", "enforcementLevel": "casual"}
+FULL_SCREEN_COLOR = bytes((0, 0xc0, 0))
+
+
+class CycleTests(DesktopTest):
+    """The class watches one cycle; each test judges a side of it."""
+
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        cls.panel = Panel(cls.desktop)
+        cls.terminal_in_front = Terminal(cls.desktop, "full-screen", "-fullscreen", "-bg", "#00c000", "-fg", "#00c000")
+        cls.hands.move_to((2500, 700))
+        cls.program = Program(cls.desktop, FAST)
+        cls.addClassCleanup(cls.program.end)
+        cls.watch()
+
+    @classmethod
+    def watch(cls):
+        cls.card = until(cls.windows.card, "the warning card", 20.0)
+        cls.warning_told = cls.tree.told(cls.program.pid)
+        cls.overlays = until(lambda: found if len(found := cls.windows.overlays()) == 2 else None, "two overlays")
+        cls.labels = []
+        cls.sample_labels(until_seconds=2.5)
+        cls.card_during_break = cls.windows.card()
+        cls.break_told = cls.tree.told(cls.program.pid)
+        cls.stacking = cls.windows.stacking()
+        cls.are_unmanaged = [cls.windows.is_unmanaged(window) for window in cls.overlays]
+        cls.picture = cls.desktop.shoot(LEFT)
+        cls.sample_labels(until_seconds=10.0)
+        cls.program.logs("break complete (today: 1)")
+        until(lambda: not cls.windows.overlays(), "no overlay", 3.0)
+        cls.picture_after = cls.desktop.shoot(LEFT)
+
+    @classmethod
+    def sample_labels(cls, until_seconds):
+        """Notes when each label of the countdown was first told."""
+        start = time.monotonic()
+        while time.monotonic() < start + until_seconds and not cls.program.count("break complete"):
+            for label in set(cls.tree.told(cls.program.pid, "label")):
+                if not cls.labels or cls.labels[-1][0] != label:
+                    cls.labels.append((label, time.monotonic()))
+            time.sleep(0.02)
+        cls.end_of_labels = time.monotonic()
+
+    def test_card_is_ten_pixels_inside_the_top_right_corner_of_the_display_with_the_pointer(self):
+        self.assertEqual((self.card.x + self.card.width, self.card.y), (1920 + 1920 - 10, 10))
+        self.assertEqual(self.card.width, 400)
+
+    def test_card_tells_the_seconds_and_its_buttons(self):
+        self.assertTrue({"Break in 3 seconds", "Break in 2 seconds"} & set(self.warning_told), self.warning_told)
+        for name in ("Dismiss", "Snooze 1 minute", "Snooze 3 minutes", "Snooze 5 minutes", "Start Now"):
+            self.assertIn(name, self.warning_told)
+
+    def test_card_gives_way_to_the_overlays(self):
+        self.assertIsNone(self.card_during_break)
+
+    def test_overlays_cover_each_display_exactly_and_no_window_manager_handles_them(self):
+        self.assertEqual([window.frame for window in self.overlays], [LEFT, RIGHT])
+        self.assertEqual(self.are_unmanaged, [True, True])
+
+    def test_overlays_are_above_the_full_screen_program_and_the_panel(self):
+        overlays = [self.stacking.index(window.id) for window in self.overlays]
+        below = [self.stacking.index(self.windows.top_of(hex(window)))
+                 for window in (self.terminal_in_front.window, int(self.panel.window.id, 16))]
+        self.assertLess(max(overlays), min(below))
+
+    def test_nothing_of_the_full_screen_program_and_the_panel_is_seen_during_the_break(self):
+        for color in (FULL_SCREEN_COLOR, Panel.COLOR):
+            self.assertEqual(self.picture.share_of(color), 0)
+        self.assertGreater(self.picture_after.share_of(FULL_SCREEN_COLOR), 0.5)
+
+    def test_overlay_tells_its_title_and_its_buttons(self):
+        for name in ("Look 20 feet away", "Skip This Break", "Snooze 1 minute", "Snooze 3 minutes",
+                     "Snooze 5 minutes"):
+            self.assertEqual(self.break_told.count(name), 2, self.break_told)
+
+    def test_each_second_of_the_countdown_is_told_once_for_about_a_second(self):
+        self.assertEqual([label for label, _ in self.labels], ["0:05", "0:04", "0:03", "0:02", "0:01"])
+        times = [seen for _, seen in self.labels] + [self.end_of_labels]
+        lengths = [after - before for before, after in zip(times, times[1:])]
+        for length in lengths:
+            self.assertTrue(0.5 < length < 1.5, lengths)
+
+    def test_log_and_standard_output_tell_the_transitions(self):
+        for line in ("work 10 s → break at ", "pre-break warning (0:03 to break)", "break 5 s → ends ",
+                     "break complete (today: 1)"):
+            self.assertIn(f"kestrelfen: BreakEngine: {line}", self.program.log)
+            self.assertRegex(self.program.output, r"(?m)^\[Kestrelfen\] \d\d:\d\d:\d\d " + re.escape(line))
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,7 @@
+"""What a test of the real program on a virtual desktop needs."""
+
+from scaffold.case import DesktopTest
+from scaffold.desktop import Desktop
+from scaffold.waiting import until
+
+__all__ = ["Desktop", "DesktopTest", "until"]

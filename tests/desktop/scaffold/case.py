@@ -1,0 +1,67 @@
+"""The base of the tests of a desktop."""
+
+import unittest
+
+from scaffold.accessibility import LABEL
+from scaffold.desktop import Desktop
+from scaffold.program import QUICK, Program
+from scaffold.terminal import Terminal
+from scaffold.waiting import until
+
+
+class DesktopTest(unittest.TestCase):
+    """One desktop for the whole class; programs and terminals for each test."""
+
+    desktop = None
+    tree = None
+
+    @classmethod
+    def setUpClass(cls):
+        cls.desktop = Desktop()
+        cls.addClassCleanup(cls.desktop.end)
+        cls.windows = cls.desktop.windows
+        cls.hands = cls.desktop.hands
+        cls.tree = cls.desktop.start_accessibility()
+        cls.addClassCleanup(cls.tree.close)
+
+    def setUp(self):
+        self.hands.move_to((960, 900))
+
+    def start(self, preferences=None, **options):
+        program = Program(self.desktop, QUICK if preferences is None else preferences, **options)
+        self.addCleanup(program.end)
+        return program
+
+    def terminal(self, name="terminal", *options):
+        terminal = Terminal(self.desktop, name, *options)
+        self.addCleanup(terminal.end)
+        return terminal
+
+    def wait_for_overlays(self, count=2):
+        return until(lambda: found if len(found := self.windows.overlays()) == count else None,
+                     f"{count} overlays", 20.0)
+
+    def wait_for_no_overlay(self):
+        until(lambda: not self.windows.overlays(), "no overlay", 10.0)
+
+    def wait_for_card(self):
+        return until(self.windows.card, "the warning card", 20.0)
+
+    def wait_for_no_card(self):
+        until(lambda: not self.windows.card(), "no warning card", 10.0)
+
+    def wait_for_popover(self):
+        return until(self.windows.popover, "the popover", 10.0)
+
+    def wait_for_no_popover(self):
+        until(lambda: not self.windows.popover(), "no popover", 10.0)
+
+    def click_button(self, program, name, button=1):
+        point = until(lambda: self.tree.button(program.pid, name), f"the button {name!r}")
+        self.hands.click(point, button)
+
+    def wait_until_told(self, program, name, seconds=15.0):
+        until(lambda: name in self.tree.told(program.pid), f"the tree tells {name!r}", seconds)
+
+    def labels(self, program):
+        return self.tree.told(program.pid, LABEL)

@@ -1,0 +1,35 @@
+"""The mouse and the keyboard."""
+
+import subprocess
+
+
+class Hands:
+    def __init__(self, environment):
+        self._environment = environment
+
+    def _do(self, *arguments):
+        subprocess.run(["xdotool", *map(str, arguments)], env=self._environment, check=True, timeout=60)
+
+    def press(self, *keys):
+        self._do("key", *keys)
+
+    def type(self, text, delay_milliseconds=12):
+        self._do("type", "--delay", delay_milliseconds, text)
+
+    def move_to(self, point):
+        self._do("mousemove", *point)
+
+    def nudge(self):
+        self._do("mousemove_relative", 7, 5)
+
+    def click(self, point, button=1):
+        self._do("mousemove", *point, "click", button)
+
+    def drag(self, start, end, steps=10):
+        path = []
+        for step in range(1, steps + 1):
+            path += ["mousemove", *(a + (b - a) * step // steps for a, b in zip(start, end))]
+        self._do("mousemove", *start, "mousedown", 1, *path, "mouseup", 1)
+
+    def activate(self, window):
+        self._do("windowactivate", "--sync", window)

@@ -1,0 +1,92 @@
+"""The program under test."""
+
+import json
+import os
+import signal
+import subprocess
+import tempfile
+from pathlib import Path
+
+from scaffold.waiting import until
+
+BINARY = os.environ.get("KESTRELFEN", "")
+
+#: Breaks that come soon, and nothing that pauses them.
+QUICK = {"idleMode": "off", "enforcementLevel": "casual", "workIntervalSeconds": 2.0,
+         "preBreakWarningLeadSeconds": 0.5, "breakDurationSeconds": 20.0}
+
+
+class Program:
+    """One run, with preferences and folders of its own unless it is given those of another."""
+
+    def __init__(self, desktop, preferences=None, environment=None, folder=None):
+        if not os.access(BINARY, os.X_OK):
+            raise AssertionError("KESTRELFEN does not name the program to test")
+        self._desktop = desktop
+        self._folder = Path(folder or tempfile.mkdtemp(prefix="run-", dir=desktop.folder))
+        self.preference_file = self._folder / "config" / "kestrelfen" / "preferences.json"
+        if preferences is not None:
+            self.write_preferences(preferences)
+        self._environment = desktop.environment | {
+            "XDG_CONFIG_HOME": str(self._folder / "config"), "XDG_DATA_HOME": str(self._folder / "data"),
+        } | (environment or {})
+        self._environment = {key: value for key, value in self._environment.items() if value is not None}
+        self._log_file = self._folder / "standard-error"
+        self._output_file = self._folder / "standard-output"
+        with open(self._log_file, "wb") as log, open(self._output_file, "wb") as output:
+            self._process = desktop.processes.start([BINARY], env=self._environment, stdout=output, stderr=log)
+        self.pid = self._process.pid
+
+    def write_preferences(self, preferences):
+        """By hand: text as it is, anything else as JSON."""
+        self.preference_file.parent.mkdir(parents=True, exist_ok=True)
+        text = preferences if isinstance(preferences, str) else json.dumps(preferences, indent=2)
+        self.preference_file.write_text(text, encoding="utf-8")
+
+    @property
+    def preferences(self):
+        return json.loads(self.preference_file.read_text(encoding="utf-8"))
+
+    @property
+    def log(self):
+        return self._log_file.read_text(encoding="utf-8")
+
+    @property
+    def output(self):
+        return self._output_file.read_text(encoding="utf-8")
+
+    def count(self, text):
+        return self.log.count(text)
+
+    def logs(self, text, times=1, seconds=20.0):
+        """Waits until the log has that text as often as that."""
+        try:
+            until(lambda: self.count(text) >= times or self._process.poll() is not None, text, seconds)
+        except AssertionError:
+            pass
+        if self.count(text) < times:
+            raise AssertionError(f"not logged {times} times: {text!r}\nthe log is:\n{self.log}")
+
+    def second_start(self):
+        """Starts it again beside this run; its exit status and what it prints."""
+        answer = subprocess.run([BINARY], env=self._environment, stdout=subprocess.PIPE, stderr=subprocess.PIPE,
+                                text=True, timeout=20, check=False)
+        return answer.returncode, answer.stdout
+
+    def signal(self, number):
+        os.kill(self.pid, number)
+
+    def exit_status(self, seconds):
+        """Waits for its end."""
+        try:
+            return self._process.wait(seconds)
+        except subprocess.TimeoutExpired:
+            raise AssertionError(f"it did not end within {seconds:g} s; its log is:\n{self.log}") from None
+
+    def is_running(self):
+        return self._process.poll() is None
+
+    def end(self):
+        if self.is_running():
+            self.signal(signal.SIGTERM)
+        self._desktop.processes.end(self._process)

@@ -1,0 +1,27 @@
+"""Waiting for what will come: by looking for it, with a deadline."""
+
+import time
+
+LOOK_EVERY = 0.02
+PATIENCE = 15.0
+
+
+def until(condition, what, seconds=PATIENCE):
+    """The first answer of the condition that is true."""
+    deadline = time.monotonic() + seconds
+    while True:
+        answer = condition()
+        if answer:
+            return answer
+        if time.monotonic() > deadline:
+            raise AssertionError(f"not within {seconds:g} s: {what}")
+        time.sleep(LOOK_EVERY)
+
+
+def while_true(condition, what, seconds):
+    """Fails as soon as the condition no longer holds within that time."""
+    deadline = time.monotonic() + seconds
+    while time.monotonic() < deadline:
+        if not condition():
+            raise AssertionError(f"no longer: {what}")
+        time.sleep(LOOK_EVERY)

@@ -1,0 +1,68 @@
+#pragma once
+
+#include "platform/fake/FakePlatform.hpp"
+#include "platform/ports/Compositor.hpp"
+#include "platform/ports/EscapeKey.hpp"
+#include "shell/AppDelegate.hpp"
+#include "shell/QuickOverlayWindows.hpp"
+#include "shell/QuickPopover.hpp"
+
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <gtest/gtest.h>
+
+namespace kestrelfen {
+
+class FakeEscapeKey final : public EscapeKey {
+  public:
+    std::unique_ptr<Handle> grab(std::function<void()> pressed) override {
+        pressed_ = std::move(pressed);
+        struct Grabbed final : Handle {
+            explicit Grabbed(FakeEscapeKey& key) : key_(key) {}
+            ~Grabbed() override { key_.pressed_ = nullptr; }
+            FakeEscapeKey& key_;
+        };
+        return std::make_unique<Grabbed>(*this);
+    }
+
+    bool isGrabbed() const { return pressed_ != nullptr; }
+    void press() const { pressed_(); }
+
+  private:
+    std::function<void()> pressed_;
+};
+
+class FakeCompositor final : public Compositor {
+  public:
+    bool blending = true;
+    bool isBlending() const override { return blending; }
+};
+
+/// The windows of the real face over a machine by hand.
+class FaceTest : public testing::Test {
+  protected:
+    FaceTest();
+
+    void run(int seconds);
+    void settle();
+
+    /// The windows that are shown, in the order of their places.
+    static std::vector<QQuickWindow*> shownWindows();
+
+    /// Every text that is shown in `window`, joined by line feeds.
+    static QString textsIn(QQuickWindow* window);
+
+    static QPoint centreOf(QQuickWindow* window, const QString& spokenLabel);
+    void click(QQuickWindow* window, const QString& spokenLabel);
+
+    FakePlatform machine_;
+    FakeEscapeKey escapeKey_;
+    FakeCompositor compositor_;
+    QuickViews views_{machine_.preferences};
+    QuickOverlayWindows windows_{machine_.ports(), views_, escapeKey_, compositor_};
+    AppDelegate delegate_{machine_.ports(), nullptr, windows_};
+    int quits_ = 0;
+    QuickPopover popover_{delegate_.engine(), machine_.ports(), views_, compositor_, [this] { ++quits_; }};
+};
+
+} // namespace kestrelfen
