@@ -9,9 +9,13 @@ std::uint64_t allocations = 0;
 
 } // namespace
 
-void* operator new(std::size_t size) {
+void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept {
     ++allocations;
-    if (void* const memory = std::malloc(size == 0 ? 1 : size)) {
+    return std::malloc(size == 0 ? 1 : size);
+}
+
+void* operator new(std::size_t size) {
+    if (void* const memory = operator new(size, std::nothrow)) {
         return memory;
     }
     throw std::bad_alloc();

@@ -16,7 +16,7 @@ class FocusTests(DesktopTest):
 
     def test_text_typed_across_a_cycle_arrives_whole(self):
         program = self.start(QUICK | {"preBreakWarningLeadSeconds": 1.5, "breakDurationSeconds": 3.0})
-        typing = threading.Thread(target=self.hands.type, args=(TEXT, 35))
+        typing = threading.Thread(target=self.hands.type, args=(TEXT, 8.0))
         typing.start()
         self.addCleanup(typing.join)
         seen = set()

@@ -3,7 +3,7 @@
 import unittest
 
 from scaffold.accessibility import LABEL
-from scaffold.desktop import Desktop
+from scaffold.desktop import LEFT, RIGHT, Desktop
 from scaffold.program import QUICK, Program
 from scaffold.terminal import Terminal
 from scaffold.waiting import until
@@ -37,9 +37,14 @@ class DesktopTest(unittest.TestCase):
         self.addCleanup(terminal.end)
         return terminal
 
-    def wait_for_overlays(self, count=2):
-        return until(lambda: found if len(found := self.windows.overlays()) == count else None,
-                     f"{count} overlays", 20.0)
+    def wait_for_overlays(self, *frames):
+        """Until exactly those frames are covered: without any, those of both displays."""
+        wanted = list(frames or (LEFT, RIGHT))
+        return until(lambda: self._overlays_over(wanted), f"overlays over {wanted}", 20.0)
+
+    def _overlays_over(self, frames):
+        overlays = self.windows.overlays()
+        return overlays if [window.frame for window in overlays] == frames else None
 
     def wait_for_no_overlay(self):
         until(lambda: not self.windows.overlays(), "no overlay", 10.0)

@@ -13,8 +13,10 @@ class Hands:
     def press(self, *keys):
         self._do("key", *keys)
 
-    def type(self, text, delay_milliseconds=12):
-        self._do("type", "--delay", delay_milliseconds, text)
+    def type(self, text, seconds=0.0):
+        """Over that time, if one is given, at an even pace."""
+        # The tool waits for half of the delay.
+        self._do("type", "--delay", round(2000 * seconds / len(text)), text)
 
     def move_to(self, point):
         self._do("mousemove", *point)

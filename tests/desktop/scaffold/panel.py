@@ -39,8 +39,7 @@ class Panel:
         self.window = until(self._find, "the panel")
 
     def _find(self):
-        return next((window for window in self._desktop.windows.named("tint2") if window.is_top and window.y > 900),
-                    None)
+        return next((window for window in self._desktop.windows.named("tint2") if window.y > 900), None)
 
     def icon(self):
         """The window of the program's item, once the panel has taken it in."""
