@@ -32,9 +32,11 @@ class BenchmarkMachine {
     Calendar& calendar() { return ports_.calendar; }
     Preferences& preferences() { return ports_.preferences; }
 
-    /// The least step of time, so that nothing comes due however often this is called; then a tick.
+    /// A tick at another date than the last, to and fro by the least step of time, so that nothing comes due
+    /// however often this is called.
     void tick() {
-        fake_.clock.advanceMicroseconds(1);
+        step_ = -step_;
+        fake_.clock.advanceMicroseconds(step_);
         engine().tick(fake_.clock.now());
     }
 
@@ -54,6 +56,7 @@ class BenchmarkMachine {
     std::unique_ptr<SimulatedProgram> program_;
     Subscription face_;
     std::int64_t facesChanges_ = 0;
+    std::int64_t step_ = -1;
     BreakState state_ = BreakState::idle();
 };
 

@@ -1,13 +1,16 @@
 #include "bench/RatioReporter.hpp"
 
 #include <iomanip>
+#include <unistd.h>
 
 namespace kestrelfen {
+
+RatioReporter::RatioReporter() : ConsoleReporter(isatty(STDOUT_FILENO) ? OO_ColorTabular : OO_Tabular) {}
 
 void RatioReporter::ReportRuns(const std::vector<Run>& runs) {
     ConsoleReporter::ReportRuns(runs);
     for (const Run& run : runs) {
-        if (run.run_type == Run::RT_Iteration && run.iterations > 0) {
+        if (run.run_type == Run::RT_Iteration && run.cpu_accumulated_time > 0) {
             nanoseconds_[run.run_name.str()] =
                 run.cpu_accumulated_time * 1e9 / static_cast<double>(run.iterations);
         }
@@ -20,8 +23,8 @@ void RatioReporter::Finalize() {
     for (const Limit& limit : limits_) {
         const auto found = nanoseconds_.find(limit.name);
         if (found != nanoseconds_.end()) {
-            out << limit.name << ": " << found->second / limit.nanoseconds << " of " << limit.nanoseconds
-                << " ns\n";
+            out << limit.name << ": " << found->second / limit.nanoseconds << " times the "
+                << limit.nanoseconds << " ns that it may take\n";
         }
     }
     for (const Pair& pair : pairs_) {

@@ -11,6 +11,8 @@ namespace kestrelfen {
 /// Prints times as usual and, at the end, those ratios of one run that hold on any machine.
 class RatioReporter final : public benchmark::ConsoleReporter {
   public:
+    RatioReporter();
+
     /// How many times as long as `base` the benchmark `name` takes.
     void compare(std::string name, std::string base) { pairs_.push_back({std::move(name), std::move(base)}); }
 

@@ -15,7 +15,8 @@ configure() {
     local preset=$1 folder=$2
     shift 2
     require_writable "$folder"
-    if [ -e "$folder/CMakeCache.txt" ] && ! grep -qxF "CMAKE_HOME_DIRECTORY:INTERNAL=$(pwd -P)" "$folder/CMakeCache.txt"; then
+    local cache=$folder/CMakeCache.txt
+    if [ -e "$cache" ] && ! grep -qxF "CMAKE_HOME_DIRECTORY:INTERNAL=$(pwd -P)" "$cache"; then
         set -- --fresh "$@"
     fi
     mkdir -p "$folder"

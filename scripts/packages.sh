@@ -2,29 +2,27 @@
 # What has to be installed, and installing it. Debian and Ubuntu only; elsewhere the packages are named.
 
 packages_to_build=(
-    g++ cmake ninja-build pkg-config
-    qt6-base-dev qt6-declarative-dev qt6-declarative-dev-tools libgl-dev
-    qml6-module-qtqml qml6-module-qtqml-workerscript qml6-module-qtquick qml6-module-qtquick-window
+    g++ cmake ninja-build pkg-config qt6-base-dev qt6-declarative-dev
+    qml6-module-qtqml qml6-module-qtqml-workerscript qml6-module-qtquick
     libxcb1-dev libxcb-screensaver0-dev nlohmann-json3-dev
 )
 packages_to_start=(fonts-inter fonts-jetbrains-mono tzdata)
-packages_for_wayland=(qt6-wayland)
 packages_to_reach_a_display=(x11-utils)
-packages_for_a_virtual_display=(xvfb openbox tint2 dunst dbus imagemagick x11-utils)
+# dbus-x11 is there for dunst, which would bring systemd's user session else.
+packages_for_a_desktop=(xvfb openbox tint2 dunst dbus dbus-x11 imagemagick x11-utils)
 packages_to_test=(
     libgtest-dev libgmock-dev libbenchmark-dev clang-format
-    xvfb openbox tint2 dunst dbus at-spi2-core xterm xdotool x11-utils x11-xserver-utils imagemagick
-    python3 python3-dbus python3-dbusmock python3-gi python3-pyatspi
+    "${packages_for_a_desktop[@]}" at-spi2-core xterm xdotool x11-xserver-utils python3 python3-dbus python3-gi
 )
 packages_to_tidy=(clang-tidy)
 
-fedora_packages="gcc-c++ cmake ninja-build pkgconf qt6-qtbase-devel qt6-qtdeclarative-devel qt6-qtwayland \
+fedora_packages="gcc-c++ cmake ninja-build pkgconf qt6-qtbase-devel qt6-qtdeclarative-devel \
 libxcb-devel json-devel rsms-inter-fonts jetbrains-mono-fonts xorg-x11-server-Xvfb openbox tint2 dunst \
 dbus-daemon ImageMagick xdpyinfo gtest-devel gmock-devel google-benchmark-devel clang-tools-extra at-spi2-core xterm \
-xdotool xset xrandr xprop python3-dbus python3-dbusmock python3-gobject python3-pyatspi"
-arch_packages="gcc cmake ninja pkgconf qt6-base qt6-declarative qt6-wayland libxcb nlohmann-json inter-font \
+xdotool xset xrandr xprop xwininfo python3-dbus python3-gobject"
+arch_packages="gcc cmake ninja pkgconf qt6-base qt6-declarative libxcb nlohmann-json inter-font \
 ttf-jetbrains-mono xorg-server-xvfb openbox tint2 dunst dbus imagemagick xorg-xdpyinfo gtest benchmark clang \
-at-spi2-core xterm xdotool xorg-xset xorg-xrandr xorg-xprop python-dbus python-dbusmock python-gobject python-atspi"
+at-spi2-core xterm xdotool xorg-xset xorg-xrandr xorg-xprop xorg-xwininfo python-dbus python-gobject"
 
 # Prints those of the packages that are not installed.
 missing_packages() {
@@ -56,8 +54,7 @@ tell_missing() {
     shift
     {
         echo "Missing ($why): $*"
-        echo "Install with:"
-        echo "  sudo apt-get update && sudo apt-get install --no-install-recommends $*"
+        echo "As root: apt-get update && apt-get install --no-install-recommends $*"
     } >&2
     exit 1
 }

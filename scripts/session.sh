@@ -5,25 +5,22 @@
 session_pids=()
 session_folder=""
 
-# Prints why the display that the environment names cannot be used; nothing when it can.
+# Prints why the program cannot be shown where the environment says; nothing when it can. It needs X11; a Wayland
+# desktop's own X server does.
 display_trouble() {
-    if [ -z "${DISPLAY:-}" ] && [ -z "${WAYLAND_DISPLAY:-}" ]; then
+    if [ -n "${QT_QPA_PLATFORM:-}" ] && [ "$QT_QPA_PLATFORM" != xcb ]; then
+        return
+    elif [ -n "${DISPLAY:-}" ]; then
+        x11_is_reachable || echo "nothing answers at DISPLAY=$DISPLAY"
+    elif [ -n "${WAYLAND_DISPLAY:-}" ]; then
+        echo "this Wayland desktop has no X server (DISPLAY is not set)"
+    else
         echo "neither DISPLAY nor WAYLAND_DISPLAY is set"
-    elif ! wayland_is_reachable && ! x11_is_reachable; then
-        echo "nothing answers at ${WAYLAND_DISPLAY:+WAYLAND_DISPLAY=$WAYLAND_DISPLAY }${DISPLAY:+DISPLAY=$DISPLAY}"
     fi
-}
-
-wayland_is_reachable() {
-    local socket=${WAYLAND_DISPLAY:-}
-    [ -n "$socket" ] || return 1
-    [ "${socket#/}" != "$socket" ] || socket=${XDG_RUNTIME_DIR:-/nowhere}/$socket
-    [ -S "$socket" ]
 }
 
 # Before xdpyinfo is installed, a local server's socket is all that can be told.
 x11_is_reachable() {
-    [ -n "${DISPLAY:-}" ] || return 1
     if command -v xdpyinfo >/dev/null; then
         timeout 10 xdpyinfo >/dev/null 2>&1
         return

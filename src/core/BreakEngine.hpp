@@ -33,7 +33,7 @@ class BreakEngine {
         std::unique_ptr<SystemEvents> systemEvents;
         std::unique_ptr<SmartPause> smartPause;
         /// Locks the screen; called at the start of a break, if the person asked for it.
-        std::function<void()> lockScreen;
+        std::function<void()> lockScreen = [] {};
     };
 
     /// Called at the end of every tick with its date.

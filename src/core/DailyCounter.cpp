@@ -2,6 +2,8 @@
 
 #include "core/Settings.hpp"
 
+#include <limits>
+
 namespace kestrelfen {
 
 std::int64_t DailyCounter::used(const Preferences& preferences, std::string_view key, Date dayStart) {
@@ -12,7 +14,8 @@ std::int64_t DailyCounter::used(const Preferences& preferences, std::string_view
 }
 
 void DailyCounter::increment(Preferences& preferences, std::string_view key, Date dayStart) {
-    const std::int64_t sum = used(preferences, key, dayStart) + 1;
+    const std::int64_t before = used(preferences, key, dayStart);
+    const std::int64_t sum = before < std::numeric_limits<std::int64_t>::max() ? before + 1 : before;
     preferences.set(std::string(key) + ".day", dayStart);
     preferences.set(std::string(key) + ".count", sum);
 }

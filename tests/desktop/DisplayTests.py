@@ -5,6 +5,7 @@ import unittest
 
 from scaffold import DesktopTest, until
 from scaffold.desktop import LEFT, RIGHT
+from scaffold.program import QUICK
 
 
 def seconds_of(label):
@@ -43,7 +44,7 @@ class DisplayTests(DesktopTest):
 
     def test_escape_still_ends_the_break_after_a_display_went(self):
         terminal = self.terminal()
-        program = self.start()
+        program = self.start(QUICK | {"doubleEscapeAction": "skip"})
         self.wait_for_overlays()
         self.addCleanup(self.desktop.plug_right)
         self.desktop.unplug_right()

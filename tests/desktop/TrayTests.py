@@ -31,8 +31,8 @@ class PanelTests(DesktopTest):
             with self.subTest(button=button):
                 self.hands.click(icon.centre, button)
                 popover = self.wait_for_popover()
-                self.assertLess(abs(popover.x + popover.width / 2 - icon.centre[0]), popover.width)
-                self.assertLessEqual(popover.y + popover.height, icon.y)
+                self.assertLess(abs(popover.centre[0] - icon.centre[0]), popover.width)
+                self.assertLess(popover.y + popover.height, icon.centre[1])
                 self.hands.click(icon.centre, button)
                 self.wait_for_no_popover()
 

@@ -4,8 +4,8 @@
 #include "platform/ports/Compositor.hpp"
 #include "platform/ports/EscapeKey.hpp"
 #include "shell/AppDelegate.hpp"
-#include "shell/QuickOverlayWindows.hpp"
-#include "shell/QuickPopover.hpp"
+#include "shell/desktop/QuickOverlayWindows.hpp"
+#include "shell/desktop/QuickPopover.hpp"
 
 #include <QQuickItem>
 #include <QQuickWindow>

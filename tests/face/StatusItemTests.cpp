@@ -1,5 +1,5 @@
 #include "face/FaceTest.hpp"
-#include "shell/StatusItem.hpp"
+#include "shell/desktop/StatusItem.hpp"
 
 namespace kestrelfen {
 

@@ -54,7 +54,7 @@ class IncludesTests(CheckTest):
             "src/ui/View/ViewContent.hpp": '#include "core/BreakEngine.hpp"\n',
             "src/ui/View/ViewModel.hpp": '#include "ViewContent.hpp"\n#include <QObject>\n',
             "src/shell/AppDelegate.hpp": '#include "ui/View/ViewContent.hpp"\n',
-            "src/shell/KestrelfenApp.cpp": '#include "platform/qt/QtTicker.hpp"\n#include <QGuiApplication>\n',
+            "src/shell/desktop/KestrelfenApp.cpp": '#include "platform/qt/QtTicker.hpp"\n#include <QGuiApplication>\n',
             "simulator/main.cpp": '#include "platform/fake/FakeClock.hpp"\n#include "shell/AppDelegate.hpp"\n',
         })
 
@@ -165,7 +165,7 @@ class CallsTests(CheckTest):
                            "asks for the operating system")
 
     def test_the_application_chooses_its_platform(self):
-        self.assert_clean({"src/shell/KestrelfenApp.cpp": "#ifdef __linux__\n#endif\n"})
+        self.assert_clean({"src/shell/desktop/KestrelfenApp.cpp": "#ifdef __linux__\n#endif\n"})
 
     def test_other_conditions_are_let_through(self):
         self.assert_clean({"src/core/A.hpp": "#if __cplusplus > 202002L\n#endif\n#ifdef NDEBUG\n#endif\n"})

@@ -110,6 +110,12 @@ TEST_F(CommandLine, MalformedLineBeatsAFailedExpectation) {
     EXPECT_EQ(run.errors, "-:1: expected prefs values.a 1, got null\n-:2: \"lunch\" is no command\n");
 }
 
+TEST_F(CommandLine, BothStreamsFollowTheOrderOfTheLines) {
+    const std::string shown = "{\"show\":\"prefs\",\"values\":{}}\n";
+    EXPECT_EQ(everythingWritten("show prefs\nexpect prefs a 1\nshow prefs\nlunch\n"),
+              shown + "-:2: expected prefs a 1, got null\n" + shown + "-:4: \"lunch\" is no command\n");
+}
+
 TEST_F(CommandLine, FaultOfTheProgramEndsTheRunWithStatusThree) {
     const SimulatorRun run = simulate("pref hasCompletedOnboarding bool true\n"
                                       "pref workIntervalSeconds double 1e300\n"

@@ -16,11 +16,11 @@ namespace {
 /// The standard streams of the program, as files in a folder.
 class Streams {
   public:
-    explicit Streams(const TemporaryFolder& folder) {
+    Streams(const TemporaryFolder& folder, std::string_view errors) {
         posix_spawn_file_actions_init(&actions_);
         open(STDIN_FILENO, folder / "input", O_RDONLY);
-        open(STDOUT_FILENO, folder / "output", O_WRONLY | O_CREAT);
-        open(STDERR_FILENO, folder / "errors", O_WRONLY | O_CREAT);
+        open(STDOUT_FILENO, folder / "output", O_WRONLY | O_CREAT | O_APPEND);
+        open(STDERR_FILENO, folder / errors, O_WRONLY | O_CREAT | O_APPEND);
     }
     Streams(const Streams&) = delete;
     Streams& operator=(const Streams&) = delete;
@@ -38,6 +38,7 @@ class Streams {
 
 int statusOf(std::vector<std::string> words, const Streams& streams) {
     std::vector<char*> arguments;
+    arguments.reserve(words.size() + 1);
     for (std::string& word : words) {
         arguments.push_back(word.data());
     }
@@ -57,7 +58,7 @@ int statusOf(std::vector<std::string> words, const Streams& streams) {
 SimulatorRun runSimulator(const std::vector<std::string>& arguments, std::string_view input) {
     const TemporaryFolder folder;
     writeInPlace(folder / "input", input);
-    const Streams streams(folder);
+    const Streams streams(folder, "errors");
     std::vector<std::string> words{KESTRELFEN_SIMULATOR};
     words.insert(words.end(), arguments.begin(), arguments.end());
     const int status = statusOf(std::move(words), streams);
@@ -66,6 +67,14 @@ SimulatorRun runSimulator(const std::vector<std::string>& arguments, std::string
 
 SimulatorRun simulate(std::string_view scenario) {
     return runSimulator({}, scenario);
+}
+
+std::string everythingWritten(std::string_view scenario) {
+    const TemporaryFolder folder;
+    writeInPlace(folder / "input", scenario);
+    const Streams streams(folder, "output");
+    statusOf({KESTRELFEN_SIMULATOR}, streams);
+    return contentOf(folder / "output");
 }
 
 std::vector<std::string> linesOf(const std::string& text) {

@@ -20,6 +20,9 @@ SimulatorRun runSimulator(const std::vector<std::string>& arguments, std::string
 /// Hands `scenario` to the program as its standard input.
 SimulatorRun simulate(std::string_view scenario);
 
+/// All that the program wrote for `scenario` to both its streams, in the order of writing.
+std::string everythingWritten(std::string_view scenario);
+
 /// `text` cut at its line feeds.
 std::vector<std::string> linesOf(const std::string& text);
 

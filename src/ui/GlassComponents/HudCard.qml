@@ -11,6 +11,9 @@ Item {
     property color fill: Glass.hudFill
     default property alias content: body.data
 
+    /// Without blending nothing may shine through.
+    readonly property color solidFill: Qt.rgba(fill.r, fill.g, fill.b, 1)
+
     readonly property int sideRoom: blended ? 18 : 0
     readonly property int topRoom: blended ? 10 : 0
     readonly property int bottomRoom: blended ? 26 : 0
@@ -34,8 +37,8 @@ Item {
         implicitWidth: childrenRect.width
         implicitHeight: childrenRect.height
         radius: card.radius
-        color: card.blended ? card.fill : Qt.rgba(card.fill.r, card.fill.g, card.fill.b, 1)
+        color: card.blended ? card.fill : card.solidFill
         border.width: 1
-        border.color: Glass.hudBorder
+        border.color: card.blended ? Glass.hudBorder : Qt.tint(card.solidFill, Glass.hudBorder)
     }
 }

@@ -2,7 +2,7 @@ import QtQuick
 import Kestrelfen
 
 /// The card's row of buttons: the first and the last share what the snoozes between them leave.
-Row {
+Item {
     id: row
 
     required property ControlListModel controls
@@ -11,12 +11,14 @@ Row {
 
     readonly property int snoozeCount: repeater.count - 2
     readonly property int snoozeWidth: 35
-    readonly property int snoozesWidth: snoozeCount > 0 ? snoozeCount * snoozeWidth + snoozeCount * spacing : 0
-    readonly property real wideWidth: (width - snoozesWidth - spacing) / 2
+    readonly property int gap: 8
+    readonly property int snoozeGap: 4
+    readonly property int snoozesWidth: snoozeCount > 0 ? snoozeCount * (snoozeWidth + snoozeGap) - snoozeGap + gap : 0
+    readonly property real wideWidth: (width - snoozesWidth - gap) / 2
 
     signal chosen(int key)
 
-    spacing: 8
+    implicitHeight: 33
 
     Repeater {
         id: repeater
@@ -26,10 +28,12 @@ Row {
 
             required property int key
             required property string text
+            required property int index
             required spokenLabel
             readonly property bool isStart: key === row.startKey
             readonly property bool isWide: isStart || key === row.dismissKey
 
+            x: isStart ? row.width - width : isWide ? 0 : row.wideWidth + row.gap + (index - 1) * (row.snoozeWidth + row.snoozeGap)
             width: isWide ? row.wideWidth : row.snoozeWidth
             height: 33
             radius: 11

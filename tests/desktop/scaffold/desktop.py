@@ -30,6 +30,7 @@ class Desktop:
         self.folder = tempfile.mkdtemp(prefix="kestrelfen-desktop-")
         self.processes = Processes()
         self.environment = self._first_environment()
+        self._is_right_plugged = False
         self.windows = Windows(self.environment)
         self.hands = Hands(self.environment)
         try:
@@ -75,9 +76,14 @@ class Desktop:
                        stderr=subprocess.DEVNULL)
 
     def plug_right(self):
+        """Does nothing where it is plugged."""
+        if self._is_right_plugged:
+            return
+        self._is_right_plugged = True
         self.run("xrandr", "--setmonitor", "R", f"{WIDTH}/508x{HEIGHT}/286+{WIDTH}+0", "none")
 
     def unplug_right(self):
+        self._is_right_plugged = False
         self.run("xrandr", "--delmonitor", "R")
 
     def start_accessibility(self):

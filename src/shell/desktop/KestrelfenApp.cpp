@@ -1,4 +1,4 @@
-#include "shell/KestrelfenApp.hpp"
+#include "shell/desktop/KestrelfenApp.hpp"
 
 #include "core/Settings.hpp"
 #include "platform/linux/DBusNotifier.hpp"
@@ -23,9 +23,9 @@
 #include "platform/qt/QtTicker.hpp"
 #include "platform/qt/QtTimeFormat.hpp"
 #include "shell/AppDelegate.hpp"
-#include "shell/QuickOverlayWindows.hpp"
-#include "shell/QuickPopover.hpp"
-#include "shell/StatusItem.hpp"
+#include "shell/desktop/QuickOverlayWindows.hpp"
+#include "shell/desktop/QuickPopover.hpp"
+#include "shell/desktop/StatusItem.hpp"
 
 #include <QDBusConnection>
 #include <QGuiApplication>

@@ -1,6 +1,6 @@
-#include "shell/QuickBreakWindow.hpp"
+#include "shell/desktop/QuickBreakWindow.hpp"
 
-#include "shell/QuickOverlayWindows.hpp"
+#include "shell/desktop/QuickOverlayWindows.hpp"
 
 #include <QGuiApplication>
 #include <QScreen>

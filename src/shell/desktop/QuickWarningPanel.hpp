@@ -24,6 +24,10 @@ class QuickWarningPanel final : public QObject, public OverlayWindows::WarningPa
     void moveTo(int x, int y) override { view_->setPosition(x, y); }
     void show() override;
 
+  protected:
+    /// Notes where the pointer was at each event, which may be handled late.
+    bool eventFilter(QObject* object, QEvent* event) override;
+
   private slots:
     void beginDrag();
     void drag();
@@ -31,6 +35,7 @@ class QuickWarningPanel final : public QObject, public OverlayWindows::WarningPa
   private:
     PreBreakWarningModel model_;
     std::unique_ptr<QQuickView> view_;
+    QPoint pointer_;
     QPoint grip_;
 };
 

@@ -1,4 +1,4 @@
-#include "shell/QuickViews.hpp"
+#include "shell/desktop/QuickViews.hpp"
 
 #include <QFont>
 #include <QGuiApplication>
@@ -32,6 +32,7 @@ std::unique_ptr<QQuickView> QuickViews::make(const QString& view, const QVariant
 }
 
 void QuickViews::cutToCard(QQuickView& window) {
+    window.setColor(window.rootObject()->property("solidFill").value<QColor>());
     const double radius = window.rootObject()->property("radius").toDouble();
     QPainterPath outline;
     outline.addRoundedRect(QRectF(QPointF(), window.size()), radius, radius);

@@ -1,6 +1,6 @@
-#include "shell/QuickPopover.hpp"
+#include "shell/desktop/QuickPopover.hpp"
 
-#include "shell/QuickViews.hpp"
+#include "shell/desktop/QuickViews.hpp"
 
 #include <QCursor>
 #include <QGuiApplication>

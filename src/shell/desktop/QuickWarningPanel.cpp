@@ -1,8 +1,8 @@
-#include "shell/QuickWarningPanel.hpp"
+#include "shell/desktop/QuickWarningPanel.hpp"
 
-#include "shell/QuickViews.hpp"
+#include "shell/desktop/QuickViews.hpp"
 
-#include <QCursor>
+#include <QMouseEvent>
 #include <QQuickItem>
 
 namespace kestrelfen {
@@ -20,6 +20,7 @@ QuickWarningPanel::QuickWarningPanel(BreakEngine& engine, const Platform& platfo
     if (!blended) {
         QuickViews::cutToCard(*view_);
     }
+    view_->installEventFilter(this);
     connect(view_->rootObject(), SIGNAL(dragBegan()), this, SLOT(beginDrag()));
     connect(view_->rootObject(), SIGNAL(dragged()), this, SLOT(drag()));
 }
@@ -29,12 +30,19 @@ void QuickWarningPanel::show() {
     view_->raise();
 }
 
+bool QuickWarningPanel::eventFilter(QObject* object, QEvent* event) {
+    if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseMove) {
+        pointer_ = static_cast<QMouseEvent*>(event)->globalPosition().toPoint();
+    }
+    return QObject::eventFilter(object, event);
+}
+
 void QuickWarningPanel::beginDrag() {
-    grip_ = QCursor::pos() - view_->position();
+    grip_ = pointer_ - view_->position();
 }
 
 void QuickWarningPanel::drag() {
-    view_->setPosition(QCursor::pos() - grip_);
+    view_->setPosition(pointer_ - grip_);
 }
 
 } // namespace kestrelfen

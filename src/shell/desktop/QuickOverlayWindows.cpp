@@ -1,7 +1,7 @@
-#include "shell/QuickOverlayWindows.hpp"
+#include "shell/desktop/QuickOverlayWindows.hpp"
 
-#include "shell/QuickBreakWindow.hpp"
-#include "shell/QuickWarningPanel.hpp"
+#include "shell/desktop/QuickBreakWindow.hpp"
+#include "shell/desktop/QuickWarningPanel.hpp"
 
 namespace kestrelfen {
 

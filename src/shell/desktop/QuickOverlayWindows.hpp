@@ -4,7 +4,7 @@
 #include "platform/ports/EscapeKey.hpp"
 #include "platform/ports/Platform.hpp"
 #include "shell/OverlayWindows.hpp"
-#include "shell/QuickViews.hpp"
+#include "shell/desktop/QuickViews.hpp"
 
 #include <vector>
 

@@ -1,4 +1,4 @@
-#include "shell/StatusItem.hpp"
+#include "shell/desktop/StatusItem.hpp"
 
 #include "ui/MenuBarView/StatusItemContent.hpp"
 #include "ui/MenuBarView/StatusItemPicture.hpp"
