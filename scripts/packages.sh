@@ -9,10 +9,10 @@ packages_to_build=(
 packages_to_start=(fonts-inter fonts-jetbrains-mono tzdata)
 packages_to_reach_a_display=(x11-utils)
 # dbus-x11 is there for dunst, which would bring systemd's user session else.
-packages_for_a_desktop=(xvfb openbox tint2 dunst dbus dbus-x11 imagemagick x11-utils)
+packages_for_a_desktop=(xvfb openbox tint2 dunst dbus dbus-x11 imagemagick x11-utils xdotool)
 packages_to_test=(
     libgtest-dev libgmock-dev libbenchmark-dev clang-format
-    "${packages_for_a_desktop[@]}" at-spi2-core xterm xdotool x11-xserver-utils python3 python3-dbus python3-gi
+    "${packages_for_a_desktop[@]}" at-spi2-core xterm x11-xserver-utils python3 python3-dbus python3-gi
 )
 packages_to_tidy=(clang-tidy)
 

@@ -83,7 +83,7 @@ start_session_bus() {
 # Window manager, a panel with a tray, and what shows notifications.
 start_desktop() {
     start_in_session openbox openbox
-    start_in_session tint2 tint2
+    start_in_session tint2 tint2 -c scripts/panel.tint2rc
     start_in_session dunst dunst
 }
 
@@ -114,19 +114,29 @@ end_session() {
     for ((index = ${#session_pids[@]} - 1; index >= 0; --index)); do
         all=("${session_pids[index]}")
         mapfile -t -O 1 all < <(descendants_of "${all[0]}")
-        kill "${all[@]}" 2>/dev/null || true
-        end_within_three_seconds "${all[@]}"
+        end_processes "${all[@]}"
     done
     session_pids=()
     [ -z "$session_folder" ] || rm -rf "$session_folder"
 }
 
-end_within_three_seconds() {
+# The hard way where they do not go by themselves.
+end_processes() {
     local try
-    for ((try = 0; try < 30; ++try)); do
-        kill -0 "$@" 2>/dev/null || break
-        sleep 0.1
+    kill "$@" 2>/dev/null || return 0
+    for ((try = 0; try < 60; ++try)); do
+        is_any_alive "$@" || return 0
+        sleep 0.05
     done
     kill -KILL "$@" 2>/dev/null || true
-    wait "$1" 2>/dev/null || true
+}
+
+# One that has ended and that nobody has asked about is not alive.
+is_any_alive() {
+    local pid state
+    for pid in "$@"; do
+        state=$(sed 's/.*) \(.\).*/\1/' "/proc/$pid/stat" 2>/dev/null) || continue
+        [ "$state" = Z ] || return 0
+    done
+    return 1
 }
