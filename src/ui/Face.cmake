@@ -63,6 +63,7 @@ qt_add_qml_module(kestrelfen_ui
     URI Kestrelfen
     VERSION 1.0
     RESOURCE_PREFIX /qt/qml
+    DEPENDENCIES QtQuick
     QML_FILES ${views}
     OUTPUT_DIRECTORY ${CMAKE_CURRENT_BINARY_DIR}/Kestrelfen
     SOURCES ${models})

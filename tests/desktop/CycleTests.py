@@ -49,7 +49,7 @@ class CycleTests(DesktopTest):
         """Notes when each label of the countdown was first told."""
         start = time.monotonic()
         while time.monotonic() < start + until_seconds and not cls.program.count("break complete"):
-            for label in set(cls.tree.told(cls.program.pid, "label")):
+            for label in set(cls.tree.countdowns(cls.program.pid)):
                 if not cls.labels or cls.labels[-1][0] != label:
                     cls.labels.append((label, time.monotonic()))
             time.sleep(0.02)
@@ -82,9 +82,11 @@ class CycleTests(DesktopTest):
             self.assertEqual(self.picture.share_of(color), 0)
         self.assertGreater(self.picture_after.share_of(FULL_SCREEN_COLOR), 0.5)
 
-    def test_overlay_tells_its_title_and_its_buttons(self):
-        for name in ("Look 20 feet away", "Skip This Break", "Snooze 1 minute", "Snooze 3 minutes",
-                     "Snooze 5 minutes"):
+    def test_each_overlay_tells_its_texts_and_its_buttons(self):
+        self.assertIn("Look 20 feet away", self.break_told)
+        for name in ("Blink slowly. Roll your shoulders. Nothing is being counted as screen time.",
+                     "Skip This Break", "Snooze 1 minute", "Snooze 3 minutes", "Snooze 5 minutes",
+                     "covering 2 displays · esc does nothing"):
             self.assertEqual(self.break_told.count(name), 2, self.break_told)
 
     def test_each_second_of_the_countdown_is_told_once_for_about_a_second(self):

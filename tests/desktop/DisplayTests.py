@@ -16,7 +16,7 @@ def seconds_of(label):
 class DisplayTests(DesktopTest):
     def break_ends_at(self, program):
         """By the countdown, on this process's clock."""
-        label = until(lambda: self.labels(program), "the countdown")[0]
+        label = until(lambda: self.countdown(program), "the countdown")
         return time.monotonic() + seconds_of(label)
 
     def test_overlays_follow_the_displays_and_the_time_goes_on(self):

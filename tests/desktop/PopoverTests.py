@@ -86,7 +86,7 @@ class PopoverTests(DesktopTest):
     def test_countdown_goes_on_while_it_is_open(self):
         program = self.start_opened()
         seen = set()
-        until(lambda: len(seen.update(self.labels(program)) or seen) >= 3, "three labels")
+        until(lambda: seen.update(self.tree.countdowns(program.pid)) or len(seen) >= 3, "three labels", 5.0)
 
 
 if __name__ == "__main__":

@@ -1,7 +1,5 @@
 #include "shell/desktop/QuickViews.hpp"
 
-#include <QFont>
-#include <QGuiApplication>
 #include <QPainterPath>
 #include <QQuickItem>
 #include <QUrl>
@@ -15,9 +13,6 @@ void QuickViews::prepare() {
     if (engine_) {
         return;
     }
-    QFont font(QGuiApplication::font());
-    font.setFamilies({QStringLiteral("Inter"), QStringLiteral("Noto Sans"), QStringLiteral("DejaVu Sans")});
-    QGuiApplication::setFont(font);
     appearance_ = std::make_unique<Appearance>(preferences_);
     engine_ = std::make_unique<QQmlEngine>();
     engine_->addImportPath(QStringLiteral("qrc:/qt/qml"));

@@ -3,6 +3,7 @@
 #include "core/AppAppearance.hpp"
 
 #include <QEvent>
+#include <QFont>
 #include <QFontDatabase>
 #include <QGuiApplication>
 #include <QPalette>
@@ -30,23 +31,29 @@ bool isDark(AppAppearance appearance) {
     return false;
 }
 
-QString firstFamily(const QStringList& wanted) {
+QString firstFamily(const QStringList& wanted, QFontDatabase::SystemFont otherwise) {
     for (const QString& family : wanted) {
         if (QFontDatabase::hasFamily(family)) {
             return family;
         }
     }
-    return QFontDatabase::systemFont(QFontDatabase::FixedFont).family();
+    return QFontDatabase::systemFont(otherwise).family();
 }
 
 } // namespace
 
 Appearance::Appearance(Preferences& preferences)
     : preferences_(preferences),
-      monospaced_(firstFamily({QStringLiteral("JetBrains Mono"), QStringLiteral("DejaVu Sans Mono")})) {
+      sans_(firstFamily({QStringLiteral("Inter"), QStringLiteral("Noto Sans"), QStringLiteral("DejaVu Sans")},
+                        QFontDatabase::GeneralFont)),
+      monospaced_(firstFamily({QStringLiteral("JetBrains Mono"), QStringLiteral("DejaVu Sans Mono")},
+                              QFontDatabase::FixedFont)) {
     programAppearance = this;
     QJSEngine::setObjectOwnership(this, QJSEngine::CppOwnership);
     subscription_ = preferences_.observe([this] { refresh(); });
+    QFont font(QGuiApplication::font());
+    font.setFamily(sans_);
+    QGuiApplication::setFont(font);
     qGuiApp->installEventFilter(this);
     refresh();
 }

@@ -17,6 +17,7 @@ class Appearance : public QObject {
     QML_ELEMENT
     QML_SINGLETON
     Q_PROPERTY(bool dark READ dark NOTIFY darkChanged)
+    Q_PROPERTY(QString sans READ sans CONSTANT)
     Q_PROPERTY(QString monospaced READ monospaced CONSTANT)
 
   public:
@@ -24,6 +25,9 @@ class Appearance : public QObject {
     ~Appearance() override;
 
     bool dark() const { return dark_; }
+
+    /// The family for all other text.
+    QString sans() const { return sans_; }
 
     /// The family for running digits and eyebrows.
     QString monospaced() const { return monospaced_; }
@@ -42,6 +46,7 @@ class Appearance : public QObject {
     Preferences& preferences_;
     Subscription subscription_;
     bool dark_ = false;
+    QString sans_;
     QString monospaced_;
 };
 

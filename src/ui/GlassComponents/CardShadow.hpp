@@ -9,7 +9,7 @@ namespace kestrelfen {
 
 /// The shadow of a rounded card, cut out where the card lies so that a translucent card stays clean. The item
 /// fills the window; `card` is the place of the card in it.
-class CardShadow : public PictureItem {
+class CardShadow : public kestrelfen::PictureItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QRectF card MEMBER card_ WRITE setCard NOTIFY lookChanged)

@@ -14,7 +14,7 @@ Rectangle {
     property color line: Glass.hairline
     property int textSize: 13
     property int textWeight: Font.Normal
-    property string textFamily: ""
+    property string textFamily: Appearance.sans
     property int horizontalPadding: 16
     property int verticalPadding: 10
 
@@ -39,7 +39,7 @@ Rectangle {
         color: button.textColor
         font.pixelSize: button.textSize
         font.weight: button.textWeight
-        font.family: button.textFamily !== "" ? button.textFamily : Qt.application.font.family
+        font.family: button.textFamily
         Accessible.ignored: true
     }
 

@@ -10,7 +10,7 @@ namespace kestrelfen {
 
 /// A soft disc that breathes: it grows by `growth` and shrinks again, easing in and out, `legSeconds` each
 /// way. It is drawn anew only when its edge has moved by a whole pixel. Main thread only.
-class Halo : public PictureItem {
+class Halo : public kestrelfen::PictureItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QColor tint MEMBER tint_ WRITE setTint NOTIFY lookChanged)

@@ -2,12 +2,14 @@
 
 #include <QImage>
 #include <QQuickItem>
+#include <QtQml/qqmlregistration.h>
 
 namespace kestrelfen {
 
 /// An item that shows one picture made ahead, remade when its size or scale changes. Main thread only.
 class PictureItem : public QQuickItem {
     Q_OBJECT
+    QML_ANONYMOUS
 
   public:
     explicit PictureItem(QQuickItem* parent = nullptr);

@@ -9,7 +9,7 @@ namespace kestrelfen {
 
 /// An opaque diagonal gradient of three colours under two veils, with noise of less than one step against
 /// banding.
-class Wash : public PictureItem {
+class Wash : public kestrelfen::PictureItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QColor first MEMBER first_ WRITE setFirst NOTIFY lookChanged)

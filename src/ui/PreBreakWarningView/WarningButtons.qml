@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Kestrelfen
 
@@ -40,7 +42,7 @@ Item {
             label: text
             textSize: 12
             textWeight: isStart || !isWide ? Font.DemiBold : Font.Medium
-            textFamily: isWide ? "" : Appearance.monospaced
+            textFamily: isWide ? Appearance.sans : Appearance.monospaced
             textColor: isStart ? Glass.overAccent : Glass.ink
             fill: isStart ? Glass.accentFill : Glass.sunk
             pressedFill: isStart ? Glass.faded(Glass.accentFill, 0.85) : Glass.rule

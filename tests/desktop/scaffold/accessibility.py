@@ -1,5 +1,7 @@
 """The accessibility tree of a program, read as a screen reader would."""
 
+import re
+
 import dbus
 import dbus.bus
 
@@ -11,6 +13,7 @@ ANSWER_PATIENCE = 10.0
 BUTTON = "push button"
 SHOWING = 1 << 25
 LABEL = "label"
+COUNTDOWN = re.compile(r"^\d+:\d\d$")
 
 
 class Node:
@@ -90,6 +93,10 @@ class Accessibility:
             return [node.name for node in self.nodes(pid) if role is None or node.role == role]
         except dbus.DBusException:
             return []
+
+    def countdowns(self, pid):
+        """The time that each window shows as a countdown."""
+        return [name for name in self.told(pid, LABEL) if COUNTDOWN.match(name)]
 
     def button(self, pid, name):
         """Where to click on the button of that name, or nothing."""

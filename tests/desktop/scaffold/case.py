@@ -2,7 +2,6 @@
 
 import unittest
 
-from scaffold.accessibility import LABEL
 from scaffold.desktop import LEFT, RIGHT, Desktop
 from scaffold.program import QUICK, Program
 from scaffold.terminal import Terminal
@@ -68,5 +67,6 @@ class DesktopTest(unittest.TestCase):
     def wait_until_told(self, program, name, seconds=15.0):
         until(lambda: name in self.tree.told(program.pid), f"the tree tells {name!r}", seconds)
 
-    def labels(self, program):
-        return self.tree.told(program.pid, LABEL)
+    def countdown(self, program):
+        """What it shows now, or nothing."""
+        return next(iter(self.tree.countdowns(program.pid)), None)

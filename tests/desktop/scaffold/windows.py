@@ -56,8 +56,8 @@ class Windows:
                       len(match["indent"]) == TOP_INDENT)
 
     def named(self, name):
-        """Those that can be seen and whose title begins so, from the top to the bottom."""
-        return [window for window in self.all() if window.name.startswith(name) and self.is_viewable(window)]
+        """Those of that title that can be seen, from the top to the bottom."""
+        return [window for window in self.all() if window.name == name and self.is_viewable(window)]
 
     def is_viewable(self, window):
         return "Map State: IsViewable" in self.run("xwininfo", "-id", window.id)
@@ -73,7 +73,7 @@ class Windows:
 
     def popover(self):
         """The tray's item bears the same name, but is far smaller."""
-        return next((window for window in self.named(POPOVER) if window.name == POPOVER and window.width > 200), None)
+        return next((window for window in self.named(POPOVER) if window.width > 200), None)
 
     def stacking(self):
         """The numbers of the direct children of the root, from the top to the bottom."""
