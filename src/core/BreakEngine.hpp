@@ -93,7 +93,7 @@ class BreakEngine {
     void start();
     bool isTicking() const { return tickSubscription_ != nullptr; }
     /// Brings the day's counts from the store; `completion` runs at the end.
-    void hydrate(std::function<void()> completion = {});
+    void hydrate(const std::function<void()>& completion = {});
     void tick(Date date);
     void startWorkInterval(Date date);
     void beginBreak(Date date);

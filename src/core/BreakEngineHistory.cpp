@@ -12,7 +12,7 @@ void BreakEngine::Hydration::addUnseen(const CountedBreak& counted) {
     }
 }
 
-void BreakEngine::hydrate(std::function<void()> completion) {
+void BreakEngine::hydrate(const std::function<void()>& completion) {
     if (!store_) {
         if (completion) {
             completion();

@@ -55,10 +55,10 @@ class CardTests(DesktopTest):
         grip = (card.x + 200, card.y + 20)
         target = (grip[0] - 700, grip[1] + 350)
         self.hands.drag(grip, target)
-        put = until(lambda: found if (found := self.windows.card()).x == card.x - 700 else None, "the card was moved")
-        self.assertEqual(put.frame, (card.x - 700, card.y + 350, card.width, card.height))
+        put = (card.x - 700, card.y + 350, card.width, card.height)
+        self.wait_until_it_is_at(put)
         self.wait_for_the_next_second(program)
-        self.assertEqual(self.windows.card().frame, put.frame)
+        self.assertEqual(self.windows.card().frame, put)
         self.click_button(program, "Dismiss")
         self.wait_for_no_card()
 
@@ -74,8 +74,10 @@ class CardTests(DesktopTest):
         _, card = self.start_warned()
         grip = (card.x + 200, card.y + 20)
         self.hands.drag(grip, (grip[0] + 1200, grip[1] + 100))
-        until(lambda: self.windows.card().x == card.x + 1200, "the card was moved")
-        self.assertEqual(self.windows.card().frame, (card.x + 1200, card.y + 100, card.width, card.height))
+        self.wait_until_it_is_at((card.x + 1200, card.y + 100, card.width, card.height))
+
+    def wait_until_it_is_at(self, frame):
+        until(lambda: self.windows.card().frame == frame, f"the card at {frame}", 5.0)
 
     def test_no_card_where_it_is_switched_off(self):
         program = self.start(QUICK | {"warningHUDEnabled": False, "preBreakWarningLeadSeconds": 2.0})
@@ -87,11 +89,13 @@ class CardTests(DesktopTest):
     def test_card_lies_above_the_window_that_is_worked_in(self):
         terminal = self.terminal("terminal", "-fullscreen")
         _, card = self.start_warned()
-        stacking = self.windows.stacking()
-        self.assertLess(stacking.index(card.id), stacking.index(self.windows.top_of(hex(terminal.window))))
+        self.assertTrue(self.is_above(card, terminal))
         terminal.take_focus()
-        until(lambda: (order := self.windows.stacking()).index(card.id)
-              < order.index(self.windows.top_of(hex(terminal.window))), "the card above the terminal")
+        until(lambda: self.is_above(card, terminal), "the card above the terminal")
+
+    def is_above(self, card, terminal):
+        stacking = self.windows.stacking()
+        return stacking.index(card.id) < stacking.index(self.windows.top_of(hex(terminal.window)))
 
 
 if __name__ == "__main__":

@@ -50,7 +50,7 @@ class EscapeTests(DesktopTest):
         self.hands.press("Escape", "b")
         self.recorder.receives("b")
         passed = set()
-        until(lambda: passed.update(self.tree.countdowns(program.pid)) or len(passed) >= 3, "two more seconds of the countdown")
+        until(lambda: passed.update(self.tree.countdowns(program.pid)) or len(passed) >= 3, "two more seconds")
         self.hands.press("Escape")
         program.logs("break complete (today: 1)")
         self.assert_escape_reaches_the_terminal_again()

@@ -21,8 +21,12 @@ class PanelTests(DesktopTest):
 
     def wait_for_icon(self):
         """Once it has its final size and has been drawn."""
-        return until(lambda: icon if (icon := self.panel.icon()) and icon.width == 24
-                     and self.desktop.shoot(icon.frame).share_of(Panel.COLOR) < 0.99 else None, "the icon", 20.0)
+        return until(self.drawn_icon, "the icon", 20.0)
+
+    def drawn_icon(self):
+        icon = self.panel.icon()
+        is_drawn = icon and icon.width == 24 and self.desktop.shoot(icon.frame).share_of(Panel.COLOR) < 0.99
+        return icon if is_drawn else None
 
     def test_left_and_right_click_open_and_close_the_popover(self):
         self.start(LONG)
@@ -67,9 +71,15 @@ class StatusNotifierTests(DesktopTest):
 
     def setUp(self):
         super().setUp()
+        self.start_tray()
+
+    def start_tray(self):
         self.tray = Service(self.desktop, "tray_host.py")
         self.addCleanup(self.tray.end)
         until(lambda: {"event": "ready"} in self.tray.told, "the tray")
+
+    def wait_until_registered(self):
+        until(lambda: any(told.get("event") == "registered" for told in self.tray.told), "the item registered")
 
     def ask(self, **command):
         """The tray's answer to that."""
@@ -81,7 +91,7 @@ class StatusNotifierTests(DesktopTest):
 
     def start_registered(self, preferences):
         program = self.start(preferences)
-        until(lambda: any(told.get("event") == "registered" for told in self.tray.told), "the item was registered")
+        self.wait_until_registered()
         return program
 
     def tooltip(self):
@@ -149,8 +159,8 @@ class StatusNotifierTests(DesktopTest):
     def test_tray_that_goes_and_comes_gets_the_item_again(self):
         program = self.start_registered(LONG)
         self.tray.end()
-        self.setUp()
-        until(lambda: any(told.get("event") == "registered" for told in self.tray.told), "the item was registered")
+        self.start_tray()
+        self.wait_until_registered()
         self.assertEqual(program.count(NO_TRAY), 0)
 
 

@@ -62,7 +62,9 @@ class Studio:
         return until(self.desktop.windows.popover, "the popover")
 
     def click(self, program, name):
-        self.desktop.hands.click(until(lambda: self.tree.button(program.pid, name), name))
+        point = until(lambda: self.tree.button(program.pid, name), name)
+        # The tree counts in the pixels of the program, not in those of the display.
+        self.desktop.hands.click(tuple(self.scale * number for number in point))
 
     def end(self):
         self.tree.close()

@@ -28,7 +28,7 @@ std::unique_ptr<QQuickView> QuickViews::make(const QString& view, const QVariant
 
 void QuickViews::cutToCard(QQuickView& window) {
     window.setColor(window.rootObject()->property("solidFill").value<QColor>());
-    const double radius = window.rootObject()->property("radius").toDouble();
+    const double radius = window.rootObject()->property("radius").toDouble() - 1;
     QPainterPath outline;
     outline.addRoundedRect(QRectF(QPointF(), window.size()), radius, radius);
     window.setMask(QRegion(outline.toFillPolygon().toPolygon()));

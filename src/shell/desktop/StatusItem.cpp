@@ -24,6 +24,7 @@ TrayPicture pictureOf(std::string_view symbol, int size) {
 
 std::vector<TrayPicture> picturesOf(std::string_view symbol) {
     std::vector<TrayPicture> pictures;
+    pictures.reserve(pictureSizes.size());
     for (const int size : pictureSizes) {
         pictures.push_back(pictureOf(symbol, size));
     }

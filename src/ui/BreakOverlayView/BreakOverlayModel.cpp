@@ -33,6 +33,7 @@ int keyOf(const BreakOverlayControl& control) {
 
 std::vector<ControlListModel::Row> rowsOf(const std::vector<BreakOverlayControl>& controls) {
     std::vector<ControlListModel::Row> rows;
+    rows.reserve(controls.size());
     for (const auto& control : controls) {
         rows.push_back({keyOf(control), QString::fromStdString(control.text),
                         QString::fromStdString(control.spokenLabel), control.kind != Kind::skipWait});

@@ -29,6 +29,7 @@ HudCard {
             spacing: 18
 
             CountdownRing {
+                anchors.verticalCenter: parent.verticalCenter
                 remaining: view.model.ringRemaining
                 label: view.model.ringLabel
                 diameter: 88

@@ -26,6 +26,7 @@ int keyOf(const PreBreakWarningControl& control) {
 
 std::vector<ControlListModel::Row> rowsOf(const std::vector<PreBreakWarningControl>& controls) {
     std::vector<ControlListModel::Row> rows;
+    rows.reserve(controls.size());
     for (const auto& control : controls) {
         rows.push_back({keyOf(control), QString::fromStdString(control.text),
                         QString::fromStdString(control.spokenLabel), true});

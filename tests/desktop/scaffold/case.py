@@ -26,8 +26,8 @@ class DesktopTest(unittest.TestCase):
     def setUp(self):
         self.hands.move_to((960, 900))
 
-    def start(self, preferences=None, **options):
-        program = Program(self.desktop, QUICK if preferences is None else preferences, **options)
+    def start(self, preferences=QUICK, **options):
+        program = Program(self.desktop, preferences, **options)
         self.addCleanup(program.end)
         return program
 

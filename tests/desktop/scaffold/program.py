@@ -17,22 +17,20 @@ QUICK = {"idleMode": "off", "enforcementLevel": "casual", "workIntervalSeconds":
 
 
 class Program:
-    """One run, with preferences and folders of its own unless it is given those of another."""
+    """One run, with preferences and folders of its own. A variable of `environment` that is None is left out."""
 
-    def __init__(self, desktop, preferences=None, environment=None, folder=None):
+    def __init__(self, desktop, preferences, environment=None):
         if not os.access(BINARY, os.X_OK):
             raise AssertionError("KESTRELFEN does not name the program to test")
         self._desktop = desktop
-        self._folder = Path(folder or tempfile.mkdtemp(prefix="run-", dir=desktop.folder))
-        self.preference_file = self._folder / "config" / "kestrelfen" / "preferences.json"
-        if preferences is not None:
-            self.write_preferences(preferences)
-        self._environment = desktop.environment | {
-            "XDG_CONFIG_HOME": str(self._folder / "config"), "XDG_DATA_HOME": str(self._folder / "data"),
-        } | (environment or {})
-        self._environment = {key: value for key, value in self._environment.items() if value is not None}
-        self._log_file = self._folder / "standard-error"
-        self._output_file = self._folder / "standard-output"
+        folder = Path(tempfile.mkdtemp(prefix="run-", dir=desktop.folder))
+        self.preference_file = folder / "config" / "kestrelfen" / "preferences.json"
+        self.write_preferences(preferences)
+        folders = {"XDG_CONFIG_HOME": str(folder / "config"), "XDG_DATA_HOME": str(folder / "data")}
+        chosen = desktop.environment | folders | (environment or {})
+        self._environment = {key: value for key, value in chosen.items() if value is not None}
+        self._log_file = folder / "standard-error"
+        self._output_file = folder / "standard-output"
         with open(self._log_file, "wb") as log, open(self._output_file, "wb") as output:
             self._process = desktop.processes.start([BINARY], env=self._environment, stdout=output, stderr=log)
         self.pid = self._process.pid

@@ -16,12 +16,3 @@ def until(condition, what, seconds=PATIENCE):
         if time.monotonic() > deadline:
             raise AssertionError(f"not within {seconds:g} s: {what}")
         time.sleep(LOOK_EVERY)
-
-
-def while_true(condition, what, seconds):
-    """Fails as soon as the condition no longer holds within that time."""
-    deadline = time.monotonic() + seconds
-    while time.monotonic() < deadline:
-        if not condition():
-            raise AssertionError(f"no longer: {what}")
-        time.sleep(LOOK_EVERY)
