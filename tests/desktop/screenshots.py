@@ -30,7 +30,6 @@ class Studio:
         self.appearance = "light"
         self.scale = 1
         self.suffix = ""
-        self.desktop.run("xsetroot", "-solid", "#8aa0a8")
 
     def start_compositor(self, command):
         """It has a window of its own name from when it begins to blend."""
@@ -135,6 +134,7 @@ def main():
     choice.folder.mkdir(parents=True, exist_ok=True)
     studio = Studio(choice.folder)
     try:
+        studio.desktop.run("xsetroot", "-solid", "#8aa0a8")
         shoot_all(studio, "")
         if not choice.compositor:
             print("no compositor here: install xcompmgr for the rest", file=sys.stderr)

@@ -45,6 +45,17 @@ TEST_F(FaceTest, aLongBreakShowsItsCycle) {
     EXPECT_FALSE(texts.contains(QStringLiteral("covering")));
 }
 
+TEST_F(FaceTest, aLowDisplayShowsTheWholeOverlaySmaller) {
+    machine_.preferences.set("longBreakEvery", std::int64_t{2});
+    run(1220 + 1200);
+    QQuickWindow* const window = shownWindows().at(0);
+    window->resize(960, 540);
+    settle();
+    EXPECT_LT(centreOf(window, QStringLiteral("Snooze 1 minute")).y(), 540 - 48);
+    click(window, QStringLiteral("Snooze 1 minute"));
+    EXPECT_EQ(delegate_.engine().timeUntilNextBreak(), 60.0);
+}
+
 TEST_F(FaceTest, aClickOnASnoozeSnoozes) {
     run(1200);
     click(shownWindows().at(0), QStringLiteral("Snooze 3 minutes"));

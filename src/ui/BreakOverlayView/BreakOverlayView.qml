@@ -8,6 +8,7 @@ Item {
     id: view
 
     required property BreakOverlayModel model
+    readonly property int padding: 48
 
     Accessible.role: Accessible.Pane
     Accessible.name: model.title
@@ -24,6 +25,8 @@ Item {
     Column {
         id: column
         anchors.centerIn: parent
+        // A display that is lower than all this shows it smaller.
+        scale: Math.min(1, (view.height - 2 * view.padding) / height, (view.width - 2 * view.padding) / width)
         spacing: view.model.isLong ? 24 : 26
 
         Text {

@@ -21,7 +21,7 @@ def adopt_orphans():
 
 
 def die_with_the_test():
-    library.prctl(SET_PARENT_DEATH_SIGNAL, signal.SIGKILL, 0, 0, 0)
+    library.prctl(SET_PARENT_DEATH_SIGNAL, signal.SIGTERM, 0, 0, 0)
 
 
 def children():
