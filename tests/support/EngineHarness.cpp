@@ -23,12 +23,10 @@ void EngineHarness::listenToPlatform() {
 
 BreakEngine& EngineHarness::create() {
     destroyEngine();
-    auto smartPause = std::make_unique<FakeSmartPause>();
-    smartPause_ = smartPause.get();
     engine_ = std::make_unique<BreakEngine>(platform.ports(),
                                             BreakEngine::Collaborators{.store = hasStore ? &history : nullptr,
                                                                        .systemEvents = makeSystemEvents(),
-                                                                       .smartPause = std::move(smartPause),
+                                                                       .smartPause = makeSmartPause(),
                                                                        .lockScreen = makeLockScreen()});
     listenToEngine();
     return *engine_;
@@ -46,6 +44,12 @@ void EngineHarness::listenToEngine() {
 
 std::unique_ptr<SystemEvents> EngineHarness::makeSystemEvents() {
     return std::make_unique<FakeSystemEvents>(trace);
+}
+
+std::unique_ptr<SmartPause> EngineHarness::makeSmartPause() {
+    auto smartPause = std::make_unique<FakeSmartPause>();
+    smartPause_ = smartPause.get();
+    return smartPause;
 }
 
 std::function<void()> EngineHarness::makeLockScreen() {

@@ -58,6 +58,7 @@ class EngineHarness {
     /// Signals, by the connected monitor's callbacks.
     void sendPause(PauseReason reason);
     void sendResume(PauseReason reason);
+    /// Only where the engine has the fake one.
     FakeSmartPause& smartPause() { return *smartPause_; }
 
     /// What happened since the last call.
@@ -65,8 +66,9 @@ class EngineHarness {
     void forget() { trace.take(); }
 
   protected:
-    /// The monitor that the next engine gets.
+    /// The monitors that the next engine gets.
     virtual std::unique_ptr<SystemEvents> makeSystemEvents();
+    virtual std::unique_ptr<SmartPause> makeSmartPause();
     /// What locks the screen for the next engine.
     virtual std::function<void()> makeLockScreen();
 

@@ -8,13 +8,15 @@
 
 namespace kestrelfen {
 
-/// A volume of 64 KiB in memory, mounted at a folder for this process alone. Needs the right to mount.
+/// A volume in memory of 64 KiB, or as told, mounted at a folder for this process alone. Needs the right to
+/// mount.
 class SmallVolume {
   public:
-    explicit SmallVolume(std::filesystem::path folder) : folder_(std::move(folder)) {
+    explicit SmallVolume(std::filesystem::path folder, const char* options = "size=64k")
+        : folder_(std::move(folder)) {
         isMounted_ = ::unshare(CLONE_NEWNS) == 0 &&
                      ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
-                     ::mount("none", folder_.c_str(), "tmpfs", 0, "size=64k") == 0;
+                     ::mount("none", folder_.c_str(), "tmpfs", 0, options) == 0;
     }
 
     SmallVolume(const SmallVolume&) = delete;
@@ -29,7 +31,12 @@ class SmallVolume {
     bool isMounted() const { return isMounted_; }
 
     /// Takes all the room that is left.
-    void fill() const { std::ofstream(filler()) << std::string(131'072, 'x'); }
+    void fill() const {
+        std::ofstream stream(filler());
+        const std::string block(65'536, 'x');
+        while (stream << block << std::flush) {
+        }
+    }
 
     void makeRoom() const { std::filesystem::remove(filler()); }
 
