@@ -46,10 +46,11 @@ xcb_atom_t XConnection::atom(std::string_view name) const {
     return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
 }
 
-void XConnection::listen(std::function<void(const xcb_generic_event_t&)> handle,
-                         std::function<void()> broken) {
+void XConnection::listen(std::function<void(const xcb_generic_event_t&)> handle, std::function<void()> broken,
+                         std::function<void()> rested) {
     handle_ = std::move(handle);
     broken_ = std::move(broken);
+    rested_ = std::move(rested);
     notifier_ = new QSocketNotifier(xcb_get_file_descriptor(connection_), QSocketNotifier::Read);
     QObject::connect(notifier_, &QSocketNotifier::activated, notifier_, [this] { drain(); });
     flush();
@@ -58,7 +59,8 @@ void XConnection::listen(std::function<void(const xcb_generic_event_t&)> handle,
 void XConnection::flush() {
     xcb_flush(connection_);
     if (notifier_) {
-        // Sending and waiting for replies read events too, and for those the socket no longer calls.
+        // Sending and waiting for replies read events too, and for those the socket
+        // no longer calls.
         const auto drainIfAlive = [this, alive = std::weak_ptr<const char>(life_)] {
             if (!alive.expired()) {
                 drain();
@@ -81,6 +83,8 @@ void XConnection::drain() {
         notifier_->setEnabled(false);
         const auto broken = broken_;
         broken();
+    } else if (const auto rested = rested_) {
+        rested();
     }
 }
 

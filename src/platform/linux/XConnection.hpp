@@ -19,8 +19,9 @@ struct XFree {
 template <typename Type>
 using XPointer = std::unique_ptr<Type, XFree>;
 
-/// An own connection to the X server that $DISPLAY names, so that what happens on it wakes nobody else.
-/// Main thread only. It may be broken from the start (there is no server) or become so.
+/// An own connection to the X server that $DISPLAY names, so that what happens
+/// on it wakes nobody else. Main thread only. It may be broken from the start
+/// (there is no server) or become so.
 class XConnection {
   public:
     XConnection();
@@ -39,11 +40,15 @@ class XConnection {
     /// One round trip; XCB_ATOM_NONE when the connection is broken.
     xcb_atom_t atom(std::string_view name) const;
 
-    /// From now on `handle` gets every event and every error from the event loop, and `broken` one call if
-    /// the connection breaks. Either may destroy this connection.
-    void listen(std::function<void(const xcb_generic_event_t&)> handle, std::function<void()> broken);
+    /// From now on `handle` gets every event and every error from the event loop,
+    /// `broken` one call if the connection breaks, and `rested` one after all
+    /// that has come was read, answers included. Each may destroy this
+    /// connection.
+    void listen(std::function<void(const xcb_generic_event_t&)> handle, std::function<void()> broken,
+                std::function<void()> rested = nullptr);
 
-    /// Sends what was asked for. Events that came in on the way are handled from the event loop.
+    /// Sends what was asked for. Events that came in on the way are handled from
+    /// the event loop.
     void flush();
 
   private:
@@ -54,6 +59,7 @@ class XConnection {
     const xcb_screen_t* screen_ = nullptr;
     std::function<void(const xcb_generic_event_t&)> handle_;
     std::function<void()> broken_;
+    std::function<void()> rested_;
     QSocketNotifier* notifier_ = nullptr;
     std::shared_ptr<const char> life_ = std::make_shared<const char>('\0');
 };

@@ -18,7 +18,7 @@ struct EnumerationTable<LogLevel> {
     }};
 };
 
-/// The system log. Main thread only.
+/// The system log. May be written from any thread; lines never mix.
 class Log {
   public:
     virtual ~Log() = default;

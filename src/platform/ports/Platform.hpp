@@ -2,21 +2,30 @@
 
 namespace kestrelfen {
 
+class ActivationPolicy;
+class Applications;
+class AudioProcesses;
+class BrowserAccess;
 class Calendar;
 class Clock;
+class DisplayPower;
 class Displays;
 class InputIdle;
+class InterfaceAppearance;
 class Log;
 class MainQueue;
+class NotificationAuthorization;
 class Notifier;
 class Preferences;
 class ProgramFocus;
+class SerialExecutor;
 class SessionLock;
 class StandardOutput;
 class StatusBarButton;
 class SystemSignals;
 class Ticker;
 class TimeFormat;
+class WindowList;
 
 /// Everything that the program asks of the system it runs on. The ports outlive whoever holds this.
 struct Platform {
@@ -24,12 +33,21 @@ struct Platform {
     Calendar& calendar;
     TimeFormat& timeFormat;
     MainQueue& mainQueue;
+    SerialExecutor& storeExecutor;
     Ticker& ticker;
     Preferences& preferences;
     InputIdle& inputIdle;
     SystemSignals& systemSignals;
     Displays& displays;
+    DisplayPower& displayPower;
+    Applications& applications;
+    WindowList& windowList;
+    AudioProcesses& audioProcesses;
+    BrowserAccess& browserAccess;
     ProgramFocus& programFocus;
+    ActivationPolicy& activationPolicy;
+    InterfaceAppearance& interfaceAppearance;
+    NotificationAuthorization& notificationAuthorization;
     Notifier& notifier;
     SessionLock& sessionLock;
     StatusBarButton& statusBarButton;

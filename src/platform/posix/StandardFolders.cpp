@@ -37,4 +37,9 @@ std::filesystem::path configurationFolder() {
     return folder ? *folder : homeFolder() / ".config";
 }
 
+std::filesystem::path dataFolder() {
+    const auto folder = absolutePathFrom("XDG_DATA_HOME");
+    return folder ? *folder : homeFolder() / ".local/share";
+}
+
 } // namespace kestrelfen

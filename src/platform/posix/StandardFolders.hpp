@@ -10,4 +10,7 @@ std::filesystem::path homeFolder();
 /// Where programs keep what the person has chosen: $XDG_CONFIG_HOME if it is an absolute path, or ~/.config.
 std::filesystem::path configurationFolder();
 
+/// Where programs keep what the person has made: $XDG_DATA_HOME if it is an absolute path, or ~/.local/share.
+std::filesystem::path dataFolder();
+
 } // namespace kestrelfen

@@ -6,8 +6,8 @@
 
 namespace kestrelfen {
 
-/// Writes each line to a stream, as the session's journal wants it. Lines of level debug are left out. Main
-/// thread only.
+/// Writes each line to a stream, as the session's journal wants it. Lines of level debug are left out. Any
+/// thread.
 class StreamLog final : public Log {
   public:
     explicit StreamLog(std::FILE* stream) : stream_(stream) {}

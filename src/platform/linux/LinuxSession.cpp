@@ -1,0 +1,56 @@
+#include "platform/linux/LinuxSession.hpp"
+
+#include "platform/linux/MutterInputIdle.hpp"
+#include "platform/linux/WaylandApplications.hpp"
+#include "platform/linux/WaylandInputIdle.hpp"
+#include "platform/linux/WaylandWindowList.hpp"
+#include "platform/linux/X11Applications.hpp"
+#include "platform/linux/X11InputIdle.hpp"
+#include "platform/linux/X11WindowList.hpp"
+
+#include <QtGlobal>
+
+namespace kestrelfen {
+
+namespace {
+
+bool mayBeWayland() {
+    return qgetenv("XDG_SESSION_TYPE") != "x11" && !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+}
+
+} // namespace
+
+LinuxSession::LinuxSession(const Needs& needs) : needs_(needs) {
+    if (!mayBeWayland()) {
+        return;
+    }
+    wayland_.emplace();
+    if (wayland_->isBroken()) {
+        wayland_.reset();
+    }
+}
+
+std::unique_ptr<InputIdle> LinuxSession::makeInputIdle() {
+    if (!wayland_) {
+        return std::make_unique<X11InputIdle>(needs_.log);
+    }
+    if (WaylandInputIdle::isOfferedBy(*wayland_)) {
+        return std::make_unique<WaylandInputIdle>(*wayland_, needs_.log);
+    }
+    return std::make_unique<MutterInputIdle>(needs_.sessionBus);
+}
+
+LinuxSession::Windows LinuxSession::makeWindows() {
+    if (wayland_ && WaylandToplevels::isOfferedBy(*wayland_)) {
+        toplevels_.emplace(*wayland_, needs_.catalogue);
+        return {std::make_unique<WaylandApplications>(*toplevels_),
+                std::make_unique<WaylandWindowList>(*toplevels_)};
+    }
+    if (qEnvironmentVariableIsEmpty("DISPLAY")) {
+        return {};
+    }
+    x11Windows_.emplace(needs_.catalogue);
+    return {std::make_unique<X11Applications>(*x11Windows_), std::make_unique<X11WindowList>(*x11Windows_)};
+}
+
+} // namespace kestrelfen

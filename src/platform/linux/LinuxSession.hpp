@@ -1,0 +1,53 @@
+#pragma once
+
+#include "platform/linux/BusLink.hpp"
+#include "platform/linux/ProgramCatalogue.hpp"
+#include "platform/linux/WaylandConnection.hpp"
+#include "platform/linux/WaylandToplevels.hpp"
+#include "platform/linux/X11WindowWatch.hpp"
+#include "platform/ports/Applications.hpp"
+#include "platform/ports/InputIdle.hpp"
+#include "platform/ports/Log.hpp"
+#include "platform/ports/WindowList.hpp"
+
+#include <memory>
+#include <optional>
+
+namespace kestrelfen {
+
+/// Chooses who tells of input and windows: the X server of an X11 session, else the Wayland compositor with
+/// what it offers. Main thread only. What it is given outlives it, and it outlives what it makes.
+class LinuxSession {
+  public:
+    struct Needs {
+        BusLink& sessionBus;
+        ProgramCatalogue& catalogue;
+        Log& log;
+    };
+    struct Windows {
+        std::unique_ptr<Applications> applications;
+        std::unique_ptr<WindowList> list;
+    };
+
+    explicit LinuxSession(const Needs& needs);
+    LinuxSession(const LinuxSession&) = delete;
+    LinuxSession& operator=(const LinuxSession&) = delete;
+
+    /// Whether a Wayland compositor is in charge.
+    bool isWayland() const { return wayland_.has_value(); }
+
+    /// Absent at times or for ever, but never null: GNOME's service may come later.
+    std::unique_ptr<InputIdle> makeInputIdle();
+
+    /// Both null where this session has neither windows of its own to tell of nor an X server. A Wayland
+    /// compositor that does not tell leaves those that run through XWayland.
+    Windows makeWindows();
+
+  private:
+    Needs needs_;
+    std::optional<WaylandConnection> wayland_;
+    std::optional<WaylandToplevels> toplevels_;
+    std::optional<X11WindowWatch> x11Windows_;
+};
+
+} // namespace kestrelfen

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <memory>
+
+struct ext_idle_notification_v1;
+struct ext_idle_notifier_v1;
+struct org_kde_kwin_idle;
+struct org_kde_kwin_idle_timeout;
+struct wl_callback;
+struct wl_output;
+struct wl_seat;
+struct zwlr_foreign_toplevel_handle_v1;
+struct zwlr_foreign_toplevel_manager_v1;
+struct zxdg_output_manager_v1;
+struct zxdg_output_v1;
+
+namespace kestrelfen {
+
+struct WaylandDestroy {
+    void operator()(ext_idle_notification_v1* object) const;
+    void operator()(ext_idle_notifier_v1* object) const;
+    void operator()(org_kde_kwin_idle* object) const;
+    void operator()(org_kde_kwin_idle_timeout* object) const;
+    void operator()(wl_callback* object) const;
+    void operator()(wl_output* object) const;
+    void operator()(wl_seat* object) const;
+    void operator()(zwlr_foreign_toplevel_handle_v1* object) const;
+    void operator()(zwlr_foreign_toplevel_manager_v1* object) const;
+    void operator()(zxdg_output_manager_v1* object) const;
+    void operator()(zxdg_output_v1* object) const;
+};
+
+/// An object of a Wayland connection, which must outlive it.
+template <typename Type>
+using WaylandPointer = std::unique_ptr<Type, WaylandDestroy>;
+
+} // namespace kestrelfen
