@@ -25,22 +25,28 @@ void walk(QQuickItem* item, const Visit& visit) {
 
 FaceTest::FaceTest() {
     machine_.preferences.set("hasCompletedOnboarding", true);
+    machine_.interfaceAppearance.onSet = [this](InterfaceStyle style) { views_.set(style); };
     windows_.setEngine(delegate_.engine());
     delegate_.applicationDidFinishLaunching();
     settle();
 }
 
+void FaceTest::drain() {
+    while (machine_.mainQueue.drain() || machine_.storeExecutor.drain()) {
+    }
+}
+
 void FaceTest::settle() {
-    machine_.mainQueue.drain();
+    drain();
     QCoreApplication::processEvents();
-    machine_.mainQueue.drain();
+    drain();
 }
 
 void FaceTest::run(int seconds) {
     for (int second = 0; second < seconds; ++second) {
         machine_.clock.advance(1);
         machine_.ticker.fire();
-        machine_.mainQueue.drain();
+        drain();
     }
     settle();
 }

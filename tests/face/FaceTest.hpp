@@ -6,6 +6,7 @@
 #include "shell/AppDelegate.hpp"
 #include "shell/desktop/QuickOverlayWindows.hpp"
 #include "shell/desktop/QuickPopover.hpp"
+#include "support/TemporaryFolder.hpp"
 
 #include <QQuickItem>
 #include <QQuickWindow>
@@ -44,6 +45,7 @@ class FaceTest : public testing::Test {
     FaceTest();
 
     void run(int seconds);
+    void drain();
     void settle();
 
     /// The windows that are shown, in the order of their places.
@@ -58,9 +60,11 @@ class FaceTest : public testing::Test {
     FakePlatform machine_;
     FakeEscapeKey escapeKey_;
     FakeCompositor compositor_;
-    QuickViews views_{machine_.preferences};
+    QuickViews views_;
     QuickOverlayWindows windows_{machine_.ports(), views_, escapeKey_, compositor_};
-    AppDelegate delegate_{machine_.ports(), nullptr, windows_};
+    TemporaryFolder folder_;
+    AppDelegate delegate_{machine_.ports(),
+                          StoreConfiguration{folder_ / StoreConfiguration::fileName, {}, {}}, windows_};
     int quits_ = 0;
     QuickPopover popover_{delegate_.engine(), machine_.ports(), views_, compositor_, [this] { ++quits_; }};
 };

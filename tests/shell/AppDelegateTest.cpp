@@ -10,12 +10,14 @@ AppDelegateTest::AppDelegateTest() {
     platform.log.onLine = [this](const FakeLog::Line& line) {
         trace.add("log " + line.category + ": " + line.text);
     };
+    platform.preferences.set("didRequestNotificationAuthorization", true);
+    storeConfiguration.file = folder_ / StoreConfiguration::fileName;
     platform.sessionLock.onLock = [this] { trace.add("session locks"); };
 }
 
 AppDelegate& AppDelegateTest::delegate() {
     if (!delegate_) {
-        delegate_ = std::make_unique<AppDelegate>(platform.ports(), hasStore ? &history : nullptr, windows);
+        delegate_ = std::make_unique<AppDelegate>(platform.ports(), storeConfiguration, windows);
     }
     return *delegate_;
 }
@@ -34,9 +36,61 @@ void AppDelegateTest::settle() {
     bool any = true;
     while (any) {
         const bool ranTasks = platform.mainQueue.drain();
-        const bool ranJobs = history.runJobs();
+        const bool ranJobs = platform.storeExecutor.drain();
         any = ranTasks || ranJobs;
     }
+}
+
+void AppDelegateTest::relaunch() {
+    destroyDelegate();
+    settle();
+    launch();
+}
+
+DaySummary AppDelegateTest::summary(Date dayStart) {
+    DaySummary result;
+    delegate().store()->summary(dayStart, [&result](const DaySummary& found) { result = found; });
+    settle();
+    return result;
+}
+
+std::vector<DaySummary> AppDelegateTest::summaries(Date since) {
+    std::vector<DaySummary> result;
+    delegate().store()->summaries(since, [&result](auto found) { result = std::move(found); });
+    settle();
+    return result;
+}
+
+std::vector<HistoryEntry> AppDelegateTest::history(Date since) {
+    std::vector<HistoryEntry> result;
+    delegate().store()->history(since, 100, [&result](auto found) { result = std::move(found); });
+    settle();
+    return result;
+}
+
+std::vector<TaskSummary> AppDelegateTest::tasks() {
+    std::vector<TaskSummary> result;
+    delegate().store()->tasks([&result](auto found) { result = std::move(found); });
+    settle();
+    return result;
+}
+
+std::vector<AppUsageSummary> AppDelegateTest::appUsage(Date dayStart) {
+    std::vector<AppUsageSummary> result;
+    delegate().store()->appUsage(dayStart, 100, [&result](auto found) { result = std::move(found); });
+    settle();
+    return result;
+}
+
+void AppDelegateTest::remember(Date dayStart, int completed, int skipped) {
+    for (int index = 0; index < completed + skipped; ++index) {
+        delegate().store()->recordBreak(
+            BreakEntry{.startedAt = dayStart + index,
+                       .outcome = index < completed ? BreakOutcome::completed : BreakOutcome::skipped,
+                       .creditedTaskTitle = {},
+                       .dayStart = dayStart});
+    }
+    settle();
 }
 
 void AppDelegateTest::tickAfter(double seconds) {

@@ -3,8 +3,9 @@
 #include "FakeOverlayWindows.hpp"
 #include "platform/fake/FakePlatform.hpp"
 #include "shell/AppDelegate.hpp"
-#include "support/FakeBreakHistory.hpp"
 #include "support/Moments.hpp"
+#include "support/TemporaryFolder.hpp"
+#include "support/Trace.hpp"
 
 #include <gtest/gtest.h>
 
@@ -23,8 +24,10 @@ class AppDelegateTest : public testing::Test {
 
     /// Launches, and forgets the trace of it.
     void launch();
-    /// Runs the main queue and the history's jobs until both are empty.
+    /// Runs the main queue and the store's jobs until both are empty.
     void settle();
+    /// Starts the whole program anew over the same preferences and the same store.
+    void relaunch();
     /// The time passes, and the timer fires.
     void tickAfter(double seconds);
     /// As `tickAfter` up to the first break's warning.
@@ -35,15 +38,23 @@ class AppDelegateTest : public testing::Test {
     std::string windowsHappened();
     std::string happened() { return trace.take(); }
     void forget() { trace.take(); }
+    /// What the store knows; asks it and settles.
+    DaySummary summary(Date dayStart);
+    std::vector<DaySummary> summaries(Date since);
+    std::vector<HistoryEntry> history(Date since);
+    std::vector<TaskSummary> tasks();
+    std::vector<AppUsageSummary> appUsage(Date dayStart);
+    /// As if an earlier run had recorded these.
+    void remember(Date dayStart, int completed, int skipped);
     std::string state() { return std::string(rawValue(engine().state().phase())); }
 
     FakePlatform platform;
     Trace trace{platform.clock};
-    FakeBreakHistory history{platform.mainQueue, trace};
     FakeOverlayWindows windows{trace};
-    bool hasStore = true;
+    StoreConfiguration storeConfiguration;
 
   private:
+    TemporaryFolder folder_;
     std::unique_ptr<AppDelegate> delegate_;
 };
 

@@ -1,12 +1,14 @@
 #include "AppDelegateTest.hpp"
 
+#include <stdexcept>
+
 namespace kestrelfen {
 namespace {
 
 class LaunchTest : public AppDelegateTest {};
 
 TEST_F(LaunchTest, EngineStartsFirstAndTheDaysCountsComeAfterwards) {
-    history.remember(at("00:00:00"), 3, 1);
+    remember(at("00:00:00"), 3, 1);
     delegate().applicationDidFinishLaunching();
     EXPECT_EQ(happened(),
               lines({"08:00:00 log StatusItem: right click enabled on the status item",
@@ -14,8 +16,7 @@ TEST_F(LaunchTest, EngineStartsFirstAndTheDaysCountsComeAfterwards) {
     EXPECT_EQ(engine().breaksCompletedToday(), 0);
     settle();
     EXPECT_EQ(happened(),
-              lines({"08:00:00 query day 2026-03-09",
-                     "08:00:00 log BreakEngine: hydrated day 2026-03-09: 3 completed, 1 skipped"}));
+              lines({"08:00:00 log BreakEngine: hydrated day 2026-03-09: 3 completed, 1 skipped"}));
     EXPECT_EQ(engine().breaksCompletedToday(), 3);
     EXPECT_EQ(engine().breaksSkippedToday(), 1);
 }
@@ -26,7 +27,6 @@ TEST_F(LaunchTest, OnboardingThatIsNotDoneLeavesTheEngineIdle) {
     settle();
     EXPECT_EQ(happened(),
               lines({"08:00:00 log StatusItem: right click enabled on the status item",
-                     "08:00:00 query day 2026-03-09",
                      "08:00:00 log BreakEngine: hydrated day 2026-03-09: 0 completed, 0 skipped"}));
     EXPECT_EQ(state(), "idle");
     EXPECT_EQ(platform.ticker.running(), 0U);
@@ -60,11 +60,12 @@ TEST_F(LaunchTest, ButtonOfTheStatusItemIsLookedForUpToThreeSeconds) {
 }
 
 TEST_F(LaunchTest, WithoutAStoreTheTimerRunsAllTheSame) {
-    hasStore = false;
+    storeConfiguration.beforeOpening = [] { throw std::runtime_error("failed"); };
     launch();
     tickAfter(1200);
     tickAfter(20);
     EXPECT_EQ(engine().breaksCompletedToday(), 1);
+    EXPECT_EQ(delegate().store(), nullptr);
     EXPECT_EQ(windowsHappened(), lines({"window 1 over 1920x1080+0+0", "window 1 goes"}));
 }
 

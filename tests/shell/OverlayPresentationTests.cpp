@@ -179,8 +179,9 @@ TEST_F(OverlayPresentationTest, RecordCountsTheDisplaysAtTheStartOfTheBreak) {
     beginBreak();
     platform.displays.setCount(1);
     tickAfter(20);
-    ASSERT_EQ(history.breaks().size(), 1U);
-    EXPECT_EQ(history.breaks().front().displayCount, 3);
+    const auto entries = history(at("00:00:00"));
+    ASSERT_EQ(entries.size(), 1U);
+    EXPECT_EQ(entries.front().displayCount, 3);
 }
 
 } // namespace

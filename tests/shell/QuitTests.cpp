@@ -42,7 +42,7 @@ TEST_F(QuitTest, TakesTheWindowsDownAndRecordsNothing) {
     quit();
     EXPECT_EQ(happened(), lines({"08:00:00 may end", "08:00:00 window 1 goes"}));
     platform.displays.setCount(2);
-    EXPECT_TRUE(history.breaks().empty());
+    EXPECT_TRUE(history(at("00:00:00")).empty());
     EXPECT_EQ(engine().breaksCompletedToday(), 0);
     EXPECT_EQ(engine().breaksSkippedToday(), 0);
 }
@@ -62,7 +62,7 @@ TEST_F(QuitTest, RecordsNoPause) {
     forget();
     quit();
     EXPECT_EQ(happened(), lines({"08:01:00 may end"}));
-    EXPECT_TRUE(history.pauses().empty());
+    EXPECT_TRUE(history(at("00:00:00")).empty());
 }
 
 TEST_F(QuitTest, NeedsNoStartedEngine) {

@@ -1,33 +1,12 @@
 #include "shell/desktop/KestrelfenApp.hpp"
 
-#include "core/Settings.hpp"
-#include "platform/linux/DBusNotifier.hpp"
-#include "platform/linux/DBusSingleInstance.hpp"
-#include "platform/linux/DirectoryWatch.hpp"
-#include "platform/linux/LinuxTrayIcon.hpp"
+#include "platform/linux/SessionEnd.hpp"
 #include "platform/linux/TerminationSignals.hpp"
-#include "platform/linux/X11Compositor.hpp"
-#include "platform/linux/X11EscapeKey.hpp"
-#include "platform/linux/X11InputIdle.hpp"
-#include "platform/ports/PunctualClock.hpp"
-#include "platform/posix/AbsentSessionLock.hpp"
-#include "platform/posix/AbsentSystemSignals.hpp"
-#include "platform/posix/JsonPreferences.hpp"
-#include "platform/posix/PosixCalendar.hpp"
-#include "platform/posix/PosixClock.hpp"
-#include "platform/posix/StreamLog.hpp"
-#include "platform/posix/StreamOutput.hpp"
-#include "platform/qt/QtDisplays.hpp"
-#include "platform/qt/QtMainQueue.hpp"
-#include "platform/qt/QtProgramFocus.hpp"
-#include "platform/qt/QtTicker.hpp"
-#include "platform/qt/QtTimeFormat.hpp"
 #include "shell/AppDelegate.hpp"
+#include "shell/desktop/KestrelfenAppPlatform.hpp"
 #include "shell/desktop/QuickOverlayWindows.hpp"
 #include "shell/desktop/QuickPopover.hpp"
-#include "shell/desktop/StatusItem.hpp"
 
-#include <QDBusConnection>
 #include <QGuiApplication>
 #include <QQuickWindow>
 
@@ -66,78 +45,48 @@ class KestrelfenApp::Parts {
   public:
     Parts();
 
-    SingleInstance::Claim claim() { return instance_.claim(); }
+    SingleInstance::Claim claim() { return machine_.instance.claim(); }
     void launch();
-    void terminate();
+    /// `done` runs when everything is written and taken down.
+    void terminate(std::function<void()> done = {});
+    bool hasEnded() const { return hasEnded_; }
 
   private:
-    Platform platform();
-    void watchPreferences();
-
-    StreamLog log_{stderr};
-    StreamOutput output_{stdout};
-    QtMainQueue mainQueue_;
-    PosixClock wallClock_;
-    PunctualClock clock_{wallClock_};
-    QtTicker ticker_{clock_};
-    PosixCalendar calendar_;
-    QtTimeFormat timeFormat_{calendar_};
-    JsonPreferences preferences_{JsonPreferences::standardPath(), log_, mainQueue_};
-    std::vector<std::unique_ptr<DirectoryWatch>> watches_;
-    X11InputIdle inputIdle_{log_};
-    AbsentSystemSignals systemSignals_;
-    AbsentSessionLock sessionLock_;
-    QtDisplays displays_;
-    QtProgramFocus programFocus_;
-    QDBusConnection bus_{QDBusConnection::sessionBus()};
-    DBusSingleInstance instance_{bus_, log_};
-    DBusNotifier notifier_{bus_};
-    X11EscapeKey escapeKey_{log_};
-    X11Compositor compositor_;
-    std::unique_ptr<TrayIcon> tray_{makeLinuxTrayIcon(bus_, log_)};
-    StatusItem statusItem_{*tray_};
-    QuickViews views_{preferences_};
-    QuickOverlayWindows windows_{platform(), views_, escapeKey_, compositor_};
-    AppDelegate delegate_{platform(), nullptr, windows_};
-    QuickPopover popover_{delegate_.engine(), platform(), views_, compositor_, [this] { terminate(); }};
+    KestrelfenAppPlatform machine_;
+    QuickOverlayWindows windows_{machine_.ports(), machine_.views, machine_.escapeKey, machine_.compositor};
+    AppDelegate delegate_{machine_.ports(), machine_.storeConfiguration(), windows_};
+    QuickPopover popover_{delegate_.engine(), machine_.ports(), machine_.views, machine_.compositor,
+                          [this] { terminate(); }};
+    SessionEnd sessionEnd_{machine_.systemLink, [this](const SessionEnd::Done& done) { terminate(done); }};
     bool isTerminating_ = false;
+    bool hasEnded_ = false;
 };
 
 KestrelfenApp::Parts::Parts() {
     windows_.setEngine(delegate_.engine());
-    watchPreferences();
-}
-
-Platform KestrelfenApp::Parts::platform() {
-    return {clock_,       calendar_,    timeFormat_,    mainQueue_, ticker_,
-            preferences_, inputIdle_,   systemSignals_, displays_,  programFocus_,
-            notifier_,    sessionLock_, statusItem_,    output_,    log_};
-}
-
-void KestrelfenApp::Parts::watchPreferences() {
-    for (const auto& folder : preferences_.folders()) {
-        watches_.push_back(
-            std::make_unique<DirectoryWatch>(folder, [this] { preferences_.reloadIfChanged(); }));
-    }
 }
 
 void KestrelfenApp::Parts::launch() {
-    statusItem_.follow(delegate_.engine(), mainQueue_);
-    statusItem_.onActivate = [this](std::optional<TrayPoint> place) { popover_.toggle(place); };
-    instance_.onShow([this] { popover_.open(std::nullopt); });
+    machine_.statusItem.follow(delegate_.engine(), machine_.mainQueue);
+    machine_.statusItem.onActivate = [this](std::optional<TrayPoint> place) { popover_.toggle(place); };
+    machine_.instance.onShow([this] { popover_.open(std::nullopt); });
     delegate_.applicationDidFinishLaunching();
     // There is no welcome window yet that would start the timer of a first run.
     delegate_.engine().start();
 }
 
-void KestrelfenApp::Parts::terminate() {
+void KestrelfenApp::Parts::terminate(std::function<void()> done) {
     if (isTerminating_) {
         return;
     }
     isTerminating_ = true;
-    delegate_.applicationShouldTerminate([this] {
+    delegate_.applicationShouldTerminate([this, done = std::move(done)] {
         delegate_.applicationWillTerminate();
-        preferences_.flush();
+        machine_.preferences.flush();
+        hasEnded_ = true;
+        if (done) {
+            done();
+        }
         QGuiApplication::quit();
     });
 }
@@ -168,7 +117,12 @@ int KestrelfenApp::run() {
         return EXIT_SUCCESS;
     }
     parts_->launch();
-    const int status = QGuiApplication::exec();
+    int status = QGuiApplication::exec();
+    if (!parts_->hasEnded()) {
+        // The desktop's session manager ends the event loop by itself.
+        parts_->terminate();
+        status = QGuiApplication::exec();
+    }
     parts_.reset();
     return status;
 }

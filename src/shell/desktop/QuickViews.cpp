@@ -9,11 +9,18 @@ Q_IMPORT_QML_PLUGIN(KestrelfenPlugin)
 
 namespace kestrelfen {
 
+void QuickViews::set(InterfaceStyle style) {
+    style_ = style;
+    if (appearance_) {
+        appearance_->setStyle(style);
+    }
+}
+
 void QuickViews::prepare() {
     if (engine_) {
         return;
     }
-    appearance_ = std::make_unique<Appearance>(preferences_);
+    appearance_ = std::make_unique<Appearance>(style_);
     engine_ = std::make_unique<QQmlEngine>();
     engine_->addImportPath(QStringLiteral("qrc:/qt/qml"));
 }

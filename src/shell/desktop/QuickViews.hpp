@@ -13,9 +13,9 @@ namespace kestrelfen {
 
 /// Makes the windows that show a view. The QML engine and the fonts come with the first of them, as they cost
 /// memory. Main thread only.
-class QuickViews {
+class QuickViews final : public InterfaceAppearance {
   public:
-    explicit QuickViews(Preferences& preferences) : preferences_(preferences) {}
+    void set(InterfaceStyle style) override;
 
     /// A window over the view of that file name, with its required properties; not yet shown. The windows
     /// must go before this object.
@@ -27,7 +27,7 @@ class QuickViews {
   private:
     void prepare();
 
-    Preferences& preferences_;
+    InterfaceStyle style_ = InterfaceStyle::system;
     std::unique_ptr<Appearance> appearance_;
     std::unique_ptr<QQmlEngine> engine_;
 };

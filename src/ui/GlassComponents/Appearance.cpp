@@ -1,7 +1,5 @@
 #include "ui/GlassComponents/Appearance.hpp"
 
-#include "core/AppAppearance.hpp"
-
 #include <QEvent>
 #include <QFont>
 #include <QFontDatabase>
@@ -19,13 +17,13 @@ bool isDesktopDark() {
     return QGuiApplication::palette().color(QPalette::Window).lightness() < 128;
 }
 
-bool isDark(AppAppearance appearance) {
-    switch (appearance) {
-    case AppAppearance::system:
+bool isDark(InterfaceStyle style) {
+    switch (style) {
+    case InterfaceStyle::system:
         return isDesktopDark();
-    case AppAppearance::light:
+    case InterfaceStyle::light:
         return false;
-    case AppAppearance::dark:
+    case InterfaceStyle::dark:
         return true;
     }
     return false;
@@ -42,15 +40,14 @@ QString firstFamily(const QStringList& wanted, QFontDatabase::SystemFont otherwi
 
 } // namespace
 
-Appearance::Appearance(Preferences& preferences)
-    : preferences_(preferences),
+Appearance::Appearance(InterfaceStyle style)
+    : style_(style),
       sans_(firstFamily({QStringLiteral("Inter"), QStringLiteral("Noto Sans"), QStringLiteral("DejaVu Sans")},
                         QFontDatabase::GeneralFont)),
       monospaced_(firstFamily({QStringLiteral("JetBrains Mono"), QStringLiteral("DejaVu Sans Mono")},
                               QFontDatabase::FixedFont)) {
     programAppearance = this;
     QJSEngine::setObjectOwnership(this, QJSEngine::CppOwnership);
-    subscription_ = preferences_.observe([this] { refresh(); });
     QFont font(QGuiApplication::font());
     font.setFamily(sans_);
     QGuiApplication::setFont(font);
@@ -60,6 +57,11 @@ Appearance::Appearance(Preferences& preferences)
 
 Appearance::~Appearance() {
     programAppearance = nullptr;
+}
+
+void Appearance::setStyle(InterfaceStyle style) {
+    style_ = style;
+    refresh();
 }
 
 Appearance* Appearance::create(QQmlEngine* /*engine*/, QJSEngine* /*scriptEngine*/) {
@@ -74,7 +76,7 @@ bool Appearance::eventFilter(QObject* object, QEvent* event) {
 }
 
 void Appearance::refresh() {
-    const bool dark = isDark(current<AppAppearance>(preferences_));
+    const bool dark = isDark(style_);
     if (dark != dark_) {
         dark_ = dark;
         emit darkChanged();

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "base/Observable.hpp"
-#include "platform/ports/Preferences.hpp"
+#include "platform/ports/InterfaceAppearance.hpp"
 
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
@@ -11,7 +10,8 @@ class QQmlEngine;
 
 namespace kestrelfen {
 
-/// Light or dark, by the person's choice or else the desktop's. One for the program, on the main thread.
+/// Light or dark, as the program was told or else as the desktop has it. One for the program, on the main
+/// thread.
 class Appearance : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -21,8 +21,10 @@ class Appearance : public QObject {
     Q_PROPERTY(QString monospaced READ monospaced CONSTANT)
 
   public:
-    explicit Appearance(Preferences& preferences);
+    explicit Appearance(InterfaceStyle style);
     ~Appearance() override;
+
+    void setStyle(InterfaceStyle style);
 
     bool dark() const { return dark_; }
 
@@ -43,8 +45,7 @@ class Appearance : public QObject {
   private:
     void refresh();
 
-    Preferences& preferences_;
-    Subscription subscription_;
+    InterfaceStyle style_;
     bool dark_ = false;
     QString sans_;
     QString monospaced_;
