@@ -31,6 +31,8 @@ constexpr Command commandNamed(const std::array<NamedCommand, count>& commands, 
 // Each answers null where it has no command of that name.
 Command timeCommand(std::string_view name);
 Command worldCommand(std::string_view name);
+Command senseCommand(std::string_view name);
+Command historyCommand(std::string_view name);
 Command programCommand(std::string_view name);
 Command pressCommand(std::string_view name);
 

@@ -47,7 +47,8 @@ void Scenario::runLine(const std::string& line) {
 }
 
 void Scenario::runCommand(const std::string& name, Arguments& arguments) {
-    for (const auto find : {timeCommand, worldCommand, programCommand, pressCommand}) {
+    for (const auto find :
+         {timeCommand, worldCommand, senseCommand, historyCommand, programCommand, pressCommand}) {
         if (const Command command = find(name)) {
             command(simulation_, arguments);
             return;

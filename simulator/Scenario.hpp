@@ -3,7 +3,9 @@
 #include "Arguments.hpp"
 #include "Simulation.hpp"
 
+#include <filesystem>
 #include <istream>
+#include <optional>
 #include <string>
 
 namespace kestrelfen {
@@ -13,8 +15,10 @@ class Scenario {
   public:
     enum class Result { allHeld, expectationFailed, malformed };
 
-    /// `name` stands before the line number in what is said on standard error.
-    explicit Scenario(std::string name) : name_(std::move(name)) {}
+    /// `name` stands before the line number in what is said on standard error. Without a file for the store,
+    /// it is a fresh one that is gone at the end.
+    explicit Scenario(std::string name, std::optional<std::filesystem::path> storeFile = {})
+        : name_(std::move(name)), simulation_(std::move(storeFile)) {}
 
     /// Stops at a malformed line; goes on after an expectation that did not hold.
     Result run(std::istream& lines);

@@ -2,10 +2,12 @@
 
 namespace kestrelfen {
 
-SimulatedProgram::SimulatedProgram(const Platform& platform,
+SimulatedProgram::SimulatedProgram(const Platform& platform, const StoreConfiguration& store,
                                    const std::function<void(std::string_view call)>& onWindows)
-    : windows_(platform), delegate_(platform, nullptr, windows_) {
+    : windows_(platform), delegate_(platform, store, windows_),
+      historyData_(platform, delegate_.store(), fileWriter_) {
     windows_.setEngine(delegate_.engine());
+    delegate_.screenTime();
     delegate_.overlays().onChange = onWindows;
 }
 

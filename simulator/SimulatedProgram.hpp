@@ -1,7 +1,9 @@
 #pragma once
 
 #include "SimulatedWindows.hpp"
+#include "platform/posix/PosixTextFileWriter.hpp"
 #include "shell/AppDelegate.hpp"
+#include "ui/SettingsWindowView/HistoryDataActions.hpp"
 
 #include <functional>
 #include <string_view>
@@ -12,10 +14,15 @@ namespace kestrelfen {
 class SimulatedProgram {
   public:
     /// Builds everything at this one instant. `onWindows` hears of each call that changed a window.
-    SimulatedProgram(const Platform& platform, const std::function<void(std::string_view call)>& onWindows);
+    SimulatedProgram(const Platform& platform, const StoreConfiguration& store,
+                     const std::function<void(std::string_view call)>& onWindows);
 
     AppDelegate& delegate() { return delegate_; }
     BreakEngine& engine() { return delegate_.engine(); }
+    ScreenTimeTracker& screenTime() { return delegate_.screenTime(); }
+    /// Null when the store could not be opened.
+    KestrelfenStore* store() { return delegate_.store(); }
+    HistoryDataActions& historyData() { return historyData_; }
     std::int64_t breakWindowCount();
 
     /// The overlay of the first display, or null.
@@ -23,8 +30,10 @@ class SimulatedProgram {
     bool isWarningShown() { return delegate_.overlays().isWarningShown(); }
 
   private:
+    PosixTextFileWriter fileWriter_;
     SimulatedWindows windows_;
     AppDelegate delegate_;
+    HistoryDataActions historyData_;
 };
 
 } // namespace kestrelfen

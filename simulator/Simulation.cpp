@@ -4,23 +4,44 @@
 
 namespace kestrelfen {
 
-Simulation::Simulation() {
-    listen();
+Simulation::Simulation(std::optional<std::filesystem::path> storeFile) : store_(std::move(storeFile)) {
+    listenToOutput();
+    listenToServices();
 }
 
-void Simulation::listen() {
-    const auto tell = [this](const char* kind, const Json& details) {
-        events_.add(kind, world_.clock.now(), details);
-    };
-    world_.log.onLine = [tell](const FakeLog::Line& line) {
+void Simulation::tell(const char* kind, const Json& details) {
+    events_.add(kind, world_.clock.now(), details);
+}
+
+void Simulation::listenToOutput() {
+    world_.log.onLine = [this](const FakeLog::Line& line) {
         tell("log", {{"level", rawValue(line.level)}, {"category", line.category}, {"text", line.text}});
     };
-    world_.standardOutput.onPrint = [tell](const std::string& line) { tell("stdout", {{"text", line}}); };
-    world_.notifier.onPost = [tell](const Notification& notification) {
+    world_.standardOutput.onPrint = [this](const std::string& line) { tell("stdout", {{"text", line}}); };
+    world_.notifier.onPost = [this](const Notification& notification) {
         tell("notification",
              {{"title", notification.title}, {"body", notification.body}, {"sound", notification.sound}});
     };
-    world_.sessionLock.onLock = [tell] { tell("lock", Json::object()); };
+}
+
+void Simulation::listenToServices() {
+    world_.notificationAuthorization.onRequest = [this] { tell("authorization"); };
+    world_.sessionLock.onLock = [this] { tell("lock"); };
+    world_.audioProcesses.onSample = [this] { tell("audio"); };
+    world_.browserAccess.onScript = [this](const std::string& bundleIdentifier) {
+        if (const auto browser = matchingBrowser(bundleIdentifier)) {
+            tell("script", {{"browser", rawValue(*browser)}});
+        }
+    };
+    world_.activationPolicy.onSet = [this](ActivationPolicyKind policy) {
+        tell("dock", {{"policy", rawValue(policy)}});
+    };
+}
+
+void Simulation::listenToProgram() {
+    program_->screenTime().onFlushed = [this](std::size_t buckets, std::size_t sites) {
+        tell("flush", {{"buckets", buckets}, {"sites", sites}});
+    };
 }
 
 SimulatedProgram& Simulation::program() {
@@ -34,10 +55,29 @@ void Simulation::launch() {
     if (program_) {
         throw ScenarioError("the program is launched already");
     }
-    program_ = std::make_unique<SimulatedProgram>(world_.ports(), [this](std::string_view call) {
-        events_.add("windows", world_.clock.now(), {{"call", call}, {"count", program_->breakWindowCount()}});
-    });
+    resetDockPresence();
+    program_ = std::make_unique<SimulatedProgram>(
+        world_.ports(), store_.configuration(), [this](std::string_view call) {
+            tell("windows", {{"call", call}, {"count", program_->breakWindowCount()}});
+        });
+    listenToProgram();
     program_->delegate().applicationDidFinishLaunching();
+    if (program_->delegate().needsOnboarding()) {
+        openMainWindow();
+    }
+}
+
+void Simulation::openMainWindow() {
+    world_.activationPolicy.setWindows({{.isVisible = true, .isTitled = true}});
+    world_.activationPolicy.send(ProgramWindowEvent::didBecomeKey);
+}
+
+/// A new process has no window yet, and no place among the tasks.
+void Simulation::resetDockPresence() {
+    const auto onSet = std::exchange(world_.activationPolicy.onSet, nullptr);
+    world_.activationPolicy.setWindows({});
+    world_.activationPolicy.set(ActivationPolicyKind::accessory);
+    world_.activationPolicy.onSet = onSet;
 }
 
 void Simulation::quit() {
@@ -55,6 +95,7 @@ void Simulation::kill() {
     program();
     program_.reset();
     world_.mainQueue.clear();
+    world_.storeExecutor.clear();
 }
 
 void Simulation::tick() {
@@ -63,7 +104,8 @@ void Simulation::tick() {
 }
 
 void Simulation::settle() {
-    world_.mainQueue.drain();
+    while (world_.mainQueue.drain() || world_.storeExecutor.drain()) {
+    }
 }
 
 } // namespace kestrelfen

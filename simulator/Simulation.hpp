@@ -2,6 +2,7 @@
 
 #include "EventLog.hpp"
 #include "SimulatedProgram.hpp"
+#include "SimulatedStore.hpp"
 #include "platform/fake/FakePlatform.hpp"
 
 #include <memory>
@@ -12,9 +13,11 @@ namespace kestrelfen {
 /// to.
 class Simulation {
   public:
-    Simulation();
+    /// Without a file for the store, it has one of its own.
+    explicit Simulation(std::optional<std::filesystem::path> storeFile = {});
 
     FakePlatform& world() { return world_; }
+    SimulatedStore& store() { return store_; }
     EventLog& events() { return events_; }
 
     bool isRunning() const { return program_ != nullptr; }
@@ -28,13 +31,20 @@ class Simulation {
     /// Fires the engine's timer, if it runs, and lets everything come to rest.
     void tick();
 
-    /// Runs what is queued until every queue is empty.
+    /// Runs what is queued until every queue is empty: the main queue's tasks, then the store's jobs, and
+    /// again.
     void settle();
 
   private:
-    void listen();
+    void tell(const char* kind, const Json& details = Json::object());
+    void listenToOutput();
+    void listenToServices();
+    void listenToProgram();
+    void openMainWindow();
+    void resetDockPresence();
 
     FakePlatform world_;
+    SimulatedStore store_;
     EventLog events_;
     std::unique_ptr<SimulatedProgram> program_;
 };

@@ -7,32 +7,12 @@ namespace kestrelfen {
 
 namespace {
 
-constexpr std::array<std::string_view, 21> commands{"app",
-                                                    "apps",
-                                                    "audio",
-                                                    "browser",
-                                                    "category",
-                                                    "choose",
-                                                    "choose-preset",
-                                                    "close",
-                                                    "delete-all-history",
-                                                    "display",
-                                                    "export",
-                                                    "front",
-                                                    "go",
-                                                    "hover",
-                                                    "login-item",
-                                                    "pane",
-                                                    "step",
-                                                    "store",
-                                                    "tab",
-                                                    "task",
-                                                    "website"};
+constexpr std::array<std::string_view, 12> commands{"apps",  "category", "choose", "choose-preset",
+                                                    "close", "go",       "hover",  "login-item",
+                                                    "pane",  "step",     "tab",    "website"};
 
-constexpr std::array<std::string_view, 21> readings{
-    "tracker",     "smart-pause", "day",     "days", "apps",     "sites",      "app-totals",
-    "site-totals", "stretch",     "history", "csv",  "tasks",    "score",      "popover",
-    "dashboard",   "breaks",      "usage",   "pane", "app-list", "onboarding", "windows"};
+constexpr std::array<std::string_view, 9> readings{"score", "popover",  "dashboard",  "breaks", "usage",
+                                                   "pane",  "app-list", "onboarding", "windows"};
 
 constexpr std::array<std::string_view, 3> views{"popover", "dashboard", "onboarding"};
 

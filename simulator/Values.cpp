@@ -70,6 +70,15 @@ std::int64_t integerOf(const std::string& word) {
     throw ScenarioError(quoted(word) + " is not a whole number");
 }
 
+std::int64_t displayNumberOf(const std::string& word) {
+    constexpr std::int64_t last = 1'000;
+    const std::int64_t number = integerOf(word);
+    if (number < 0 || number > last) {
+        throw ScenarioError(quoted(word) + " is no display from 0 to " + std::to_string(last));
+    }
+    return number;
+}
+
 bool booleanOf(const std::string& word) {
     if (word == "true") {
         return true;

@@ -22,6 +22,9 @@ bool booleanOf(const std::string& word);
 Date dateOf(const std::string& word);
 CivilDay dayOf(const std::string& word);
 
+/// The number of a display, or 0.
+std::int64_t displayNumberOf(const std::string& word);
+
 /// `word` between quotes, for a message.
 std::string quoted(const std::string& word);
 

@@ -1,14 +1,17 @@
 #include "Output.hpp"
+#include "PrivateFolder.hpp"
 #include "Scenario.hpp"
 
 #include <array>
 #include <csignal>
 #include <cstdio>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <optional>
 #include <string>
 #include <unistd.h>
+#include <vector>
 
 namespace {
 
@@ -18,9 +21,35 @@ constexpr int malformedStatus = 2;
 constexpr int faultStatus = 3;
 constexpr std::array<int, 5> faultSignals{SIGABRT, SIGBUS, SIGFPE, SIGILL, SIGSEGV};
 
+constexpr std::array<int, 4> endSignals{SIGHUP, SIGINT, SIGPIPE, SIGTERM};
+
+/// What the arguments ask for.
+struct Request {
+    /// Absent for standard input.
+    std::optional<std::string> scenario;
+    std::optional<std::filesystem::path> storeFile;
+};
+
 extern "C" void stopAtFault(int) {
     kestrelfen::Output::flush();
+    kestrelfen::PrivateFolder::removeAtOnce();
     _exit(faultStatus);
+}
+
+/// Ends as the signal would have it, but tidily.
+extern "C" void stopAtSignal(int number) {
+    kestrelfen::PrivateFolder::removeAtOnce();
+    std::signal(number, SIG_DFL);
+    std::raise(number);
+}
+
+void handleSignals() {
+    for (const int fault : faultSignals) {
+        std::signal(fault, stopAtFault);
+    }
+    for (const int end : endSignals) {
+        std::signal(end, stopAtSignal);
+    }
 }
 
 int statusOf(Scenario::Result result) {
@@ -46,38 +75,50 @@ bool canBeRead(std::ifstream& file) {
     return file.is_open() && (file.peek(), !file.bad());
 }
 
-int runFile(const std::string& path) {
+int runFile(const std::string& path, const std::optional<std::filesystem::path>& storeFile) {
     std::ifstream file(path, std::ios::binary);
     if (!canBeRead(file)) {
         return refuse(path + " cannot be read");
     }
-    return statusOf(Scenario(path).run(file));
+    return statusOf(Scenario(path, storeFile).run(file));
 }
 
-int runStandardInput() {
-    const int status = statusOf(Scenario("-").run(std::cin));
+int runStandardInput(const std::optional<std::filesystem::path>& storeFile) {
+    const int status = statusOf(Scenario("-", storeFile).run(std::cin));
     return std::ferror(stdin) ? refuse("standard input cannot be read") : status;
+}
+
+/// What is wrong with the arguments; absent when `request` was filled.
+std::optional<std::string> read(const std::vector<std::string>& arguments, Request& request) {
+    for (std::size_t index = 0; index < arguments.size(); ++index) {
+        const std::string& argument = arguments[index];
+        if (argument == "--store") {
+            if (++index == arguments.size() || arguments[index].empty()) {
+                return "--store needs a file";
+            }
+            if (request.storeFile) {
+                return "more than one store";
+            }
+            request.storeFile = arguments[index];
+        } else if (argument.size() > 1 && argument.front() == '-') {
+            return "unknown option " + argument;
+        } else if (request.scenario) {
+            return "more than one scenario";
+        } else {
+            request.scenario = argument;
+        }
+    }
+    return std::nullopt;
 }
 
 } // namespace
 
 int main(int argumentCount, char** arguments) {
-    for (const int fault : faultSignals) {
-        std::signal(fault, stopAtFault);
+    handleSignals();
+    Request request;
+    if (const auto error = read({arguments + 1, arguments + argumentCount}, request)) {
+        return refuse(*error);
     }
-    std::optional<std::string> scenario;
-    for (int index = 1; index < argumentCount; ++index) {
-        const std::string argument = arguments[index];
-        if (argument == "--store") {
-            return refuse("--store: not built yet");
-        }
-        if (argument.size() > 1 && argument.front() == '-') {
-            return refuse("unknown option " + argument);
-        }
-        if (scenario) {
-            return refuse("more than one scenario");
-        }
-        scenario = argument;
-    }
-    return scenario && *scenario != "-" ? runFile(*scenario) : runStandardInput();
+    const bool isFile = request.scenario && *request.scenario != "-";
+    return isFile ? runFile(*request.scenario, request.storeFile) : runStandardInput(request.storeFile);
 }

@@ -1,4 +1,5 @@
-"""Runs random scenarios through the simulator and holds the rules of the timer against all that it shows.
+"""Runs random scenarios through the simulator and holds the rules of the timer and of the history against all that it
+shows.
 
     random_scenarios.py SIMULATOR           the usual seeds
     random_scenarios.py SIMULATOR SEED      one of them, printing its scenario
@@ -11,6 +12,7 @@ import subprocess
 import sys
 from concurrent.futures import ThreadPoolExecutor
 
+from history_rules import HistoryJudge
 from timer_rules import Broken, Judge
 
 SEEDS = range(300)
@@ -41,7 +43,17 @@ PREFERENCES = [
     ("warningHUDEnabled", "bool", ("true", "false")),
     ("soundOnBreakStart", "bool", ("true", "false")),
     ("debugFastCycle", "bool", ("true", "false")),
+    ("smartPauseMeetings", "bool", ("true", "false")),
+    ("smartPauseFocusApps", "bool", ("true", "false")),
+    ("focusAppBundleIDs", "strings", ("", "org.editor", "org.editor org.mail")),
+    ("websiteStats.safari", "bool", ("true", "true", "false")),
+    ("dailySummaryHour", "int", (0, 9, 18)),
+    ("historyRetentionDays", "int", (0, 30, 45, 365)),
 ]
+BUNDLES = "com.apple.Safari com.apple.Safari org.editor org.mail us.zoom.xos com.apple.screencaptureui -".split()
+READINGS = ["engine", "overlay", "warning", "status-item", "tracker", "smart-pause", "day", "days 2000-01-01",
+            "history 2000-01-01 100000", "app-totals 2000-01-01", "site-totals 2000-01-01", "tasks", "prefs"]
+TITLES = ("Read", "Write", "Call")
 QUOTAS = {"snoozesPerDay": (-1, 0, 1, 3), "snoozesPerBreak": (-1, 0, 1, 2), "advanceSkipsPerDay": (-1, 0, 1, 2)}
 
 
@@ -51,6 +63,7 @@ class Scenario:
     def __init__(self, seed):
         self.random = random.Random(seed)
         self.launched = False
+        self.processes = []
         self.lines = ["events on"]
         self.commands = []
         self.limits = {key: self.random.choice(limits) for key, limits in QUOTAS.items()}
@@ -62,14 +75,14 @@ class Scenario:
             self.lines.append("pref hasCompletedOnboarding bool true")
         self.add("launch")
         while len(self.commands) < COMMANDS:
-            for command in self.episode() if self.random.random() < 0.12 else [self.command()]:
+            chance = self.random.random()
+            for command in self.episode() if chance < 0.12 else self.work() if chance < 0.2 else [self.command()]:
                 self.add(command)
 
     def add(self, command):
         self.launched = command == "launch" or (self.launched and command not in ("quit", "kill"))
-        readings = "engine overlay warning status-item prefs" if self.launched else "prefs"
         self.commands.append(command)
-        self.lines += [command] + ["show " + reading for reading in readings.split()]
+        self.lines += [command] + ["show " + reading for reading in (READINGS if self.launched else ["prefs"])]
 
     def preference(self):
         key, kind, values = self.random.choice(PREFERENCES)
@@ -78,9 +91,10 @@ class Scenario:
     def command(self):
         pick = self.random.choice
         if not self.launched:
-            return pick(("launch", "launch", "run 30", "sleep 3600", self.world(), self.preference()))
+            simple = pick(("launch", "launch", "launch", "run 30", "sleep 3600"))
+            return pick((lambda: simple, lambda: simple, self.world, self.sense, self.disk, self.preference))()
         kinds = [self.passing] * 8 + [self.operation] * 6 + [self.press] * 5 + [self.world] * 4
-        kinds += [self.preference, self.end]
+        kinds += [self.sense] * 6 + [self.task] * 4 + [self.disk, self.preference, self.end]
         return pick(kinds)()
 
     def episode(self):
@@ -94,6 +108,24 @@ class Scenario:
         away = pick((["escape", "escape"], ["press overlay skip"], [f"press overlay snooze {pick((1, 3, 5))}"],
                      ["run 230", "press overlay end"], ["run 48", "press overlay end"], ["do pause", "do resume"]))
         return ["input active", "do begin-break", f"run {pick((0, 4, 6))}"] + away
+
+    def work(self):
+        """What a person does at work: uses an application or a browser, is called, or watches something."""
+        pick = self.random.choice
+        if not self.launched:
+            return [self.command()]
+        process = max(self.processes, default=0) + 1
+        bundle = pick(("com.apple.Safari", "com.apple.Safari", "org.editor", "org.mail"))
+        browse = ["pref websiteStats.safari bool true", "browser safari permission granted",
+                  f"browser safari url {pick(('http://a.org', 'https://www.b.org/c'))}"]
+        kind = pick("in us.zoom.xos,in com.hnc.Discord,out org.videolan.vlc".split(","))
+        call = ["audio " + kind, "run 6", "audio " + kind.split()[0], f"run {pick((5, 26))}"]
+        task = [f"task add {pick(TITLES)}", f"task activate {pick(TITLES)}"]
+        actions = pick((browse, call, task, [])) + [f"run {pick((5, 35, 61))}"]
+        if pick((True, False)):
+            self.processes.append(process)
+            actions = [f"app start {bundle} Name {process} {pick((1, 1, 2))}", f"front {process}"] + actions
+        return ["input active", "do resume"] + actions
 
     def passing(self):
         pick = self.random.choice
@@ -120,6 +152,46 @@ class Scenario:
                      f"displays {pick((0, 1, 1, 2, 3))}", f"signal {pick(SIGNALS)}", f"signal {pick(SIGNALS)}",
                      f"zone {pick(ZONES)}", f"program {pick(('active', 'inactive'))}",
                      f"lock {pick(('ok', 'missing', 'failing no'))}"))
+
+    def sense(self):
+        pick = self.random.choice
+        return pick((self.application, self.application, self.front, self.front, self.browser, self.sound))()
+
+    def application(self):
+        pick = self.random.choice
+        action = self.random.random()
+        if action < 0.5 or not self.processes:
+            process = max(self.processes, default=0) + 1
+            self.processes.append(process)
+            return f"app start {pick(BUNDLES)} {pick(('-', 'Name', 'Other'))} {process} {pick((0, 1, 1, 2))}"
+        process = pick(self.processes)
+        if action < 0.8:
+            return f"app move {process} {pick((0, 1, 2, 3))}"
+        self.processes.remove(process)
+        return f"app stop {process}"
+
+    def front(self):
+        return f"front {self.random.choice(self.processes + ['none'])}"
+
+    def browser(self):
+        pick = self.random.choice
+        return pick((f"browser safari url {pick(('http://a.org', 'https://www.b.org/c', 'error', 'about:blank'))}",
+                     f"browser safari permission {pick(('granted', 'granted', 'denied', 'notDetermined', 'notRunning'))}"))
+
+    def sound(self):
+        pick = self.random.choice
+        return pick(("audio unsupported", f"audio in {pick(('', '', 'us.zoom.xos', 'org.other'))}",
+                     f"audio out {pick(('', '', 'org.videolan.vlc', 'org.other'))}",
+                     f"display {pick(('awake', 'awake', 'asleep'))}"))
+
+    def task(self):
+        pick = self.random.choice
+        return pick((f"task add {pick(TITLES)}", f"task activate {pick(TITLES)}", f"task activate {pick(TITLES)}",
+                     f"task toggle {pick(TITLES)}", f"task delete {pick(TITLES)}", "task clear-completed"))
+
+    def disk(self):
+        return self.random.choice(("store failing", "store working", "store working", "store broken", "store ok",
+                                   "store ok", "delete-all-history" if self.launched else "store ok"))
 
     def end(self):
         return self.random.choice(("quit", "kill"))
@@ -148,12 +220,14 @@ def failure_of(simulator, seed):
     if run.returncode != 0 or run.stderr:
         return f"seed {seed}: exit status {run.returncode}: {run.stderr.strip()}"
     judge = Judge(scenario.limits)
+    history = HistoryJudge()
     outcomes = list(outcome_of_each_command(run.stdout))
     if len(outcomes) != len(scenario.commands):
         return f"seed {seed}: {len(scenario.commands)} commands, but {len(outcomes)} outcomes"
     for number, (command, outcome) in enumerate(zip(scenario.commands, outcomes), start=1):
         try:
             judge.judge(command, *outcome)
+            history.judge(command, outcome[1])
         except Broken as rule:
             return f"seed {seed}, command {number}, {command}: not so: {rule}\n{json.dumps(outcome[1])}"
     return None

@@ -83,12 +83,45 @@ TEST_F(CommandLine, UnknownOptionIsMalformed) {
     EXPECT_EQ(run.errors, std::string("kestrelfen-sim: unknown option --verbose\n") + usage);
 }
 
-TEST_F(CommandLine, StoreIsNotBuiltYet) {
-    const SimulatorRun run =
-        runSimulator({"--store", (folder / "day.store").string(), scenario("show prefs\n")});
+TEST_F(CommandLine, StoreIsKeptInTheFileThatIsNamed) {
+    const std::string store = (folder / "day.store").string();
+    const std::string path = scenario("launch\ntask add Read\nexpect tasks rows.count 1\nkill\n");
+    EXPECT_EQ(runSimulator({"--store", store, path}).status, 0);
+    EXPECT_TRUE(std::filesystem::exists(store));
+    EXPECT_EQ(runSimulator({path, "--store", store}).errors,
+              path + ":3: expected tasks rows.count 1, got 2\n");
+    EXPECT_EQ(runSimulator({"--store", store}, "launch\nexpect tasks rows.1.title Read\n").status, 0);
+    EXPECT_EQ(runSimulator({"--store", store, "-"}, "launch\nexpect tasks rows.1.title Read\n").status, 0);
+}
+
+TEST_F(CommandLine, StoreThatCannotBeOpenedLeavesTheProgramWithoutOne) {
+    const SimulatorRun run = runSimulator({"--store", folder.path().string()},
+                                          "launch\nfinish-onboarding\nrun 60\nexpect day activeSeconds 0\n"
+                                          "expect-event log level info\nexport f\n");
+    EXPECT_EQ(run.status, 0) << run.errors;
+    EXPECT_EQ(run.output, "{\"note\":\"not available\"}\n");
+}
+
+TEST_F(CommandLine, StoreIsMadeByTheLaunchOnly) {
+    const std::string store = (folder / "day.store").string();
+    EXPECT_EQ(runSimulator({"--store", store}, "show prefs\n").status, 0);
+    EXPECT_FALSE(std::filesystem::exists(store));
+}
+
+TEST_F(CommandLine, StoreNeedsOneFile) {
+    const std::string path = scenario("show prefs\n");
+    for (const std::vector<std::string>& arguments :
+         {std::vector<std::string>{"--store"}, {path, "--store"}, {"--store", "", path}}) {
+        const SimulatorRun run = runSimulator(arguments);
+        EXPECT_EQ(run.status, 2);
+        EXPECT_EQ(run.output, "");
+        EXPECT_EQ(run.errors, std::string("kestrelfen-sim: --store needs a file\n") + usage);
+    }
+    const SimulatorRun run = runSimulator({"--store", "a", "--store", "b", path});
     EXPECT_EQ(run.status, 2);
-    EXPECT_EQ(run.output, "");
-    EXPECT_EQ(run.errors, std::string("kestrelfen-sim: --store: not built yet\n") + usage);
+    EXPECT_EQ(run.errors, std::string("kestrelfen-sim: more than one store\n") + usage);
+    EXPECT_EQ(runSimulator({"--store=a", path}).errors,
+              std::string("kestrelfen-sim: unknown option --store=a\n") + usage);
 }
 
 TEST_F(CommandLine, LastLineNeedsNoLineFeed) {

@@ -8,7 +8,7 @@ namespace {
 std::string printed(std::string_view before, std::string_view lines) {
     const SimulatorRun run = simulate(std::string(before) + "events on\n" + std::string(lines));
     EXPECT_EQ(run.status, 0) << run.errors;
-    return run.output;
+    return timerEventsOf(run.output);
 }
 
 std::string event(const std::string& kind, const std::string& time, const std::string& rest) {
@@ -40,7 +40,44 @@ TEST(Events, AreOffAtFirstAndCanBeTurnedOffAgain) {
 TEST(Events, OfTheStartUp) {
     EXPECT_EQ(printed("pref hasCompletedOnboarding bool true\n", "launch\n"),
               logged("08:00:00.000", "right click enabled on the status item", "StatusItem") +
-                  logged("08:00:00.000", "work 20 min → break at 08:20 (next break long: false)"));
+                  logged("08:00:00.000", "work 20 min → break at 08:20 (next break long: false)") +
+                  event("authorization", "08:00:00.000", "") +
+                  logged("08:00:00.000", "hydrated day 2026-03-09: 0 completed, 0 skipped"));
+}
+
+TEST(Events, OfAFirstStartUp) {
+    EXPECT_EQ(printed("", "launch\n"),
+              logged("08:00:00.000", "right click enabled on the status item", "StatusItem") +
+                  event("authorization", "08:00:00.000", "") +
+                  event("dock", "08:00:00.000", R"(,"policy":"regular")") +
+                  logged("08:00:00.000", "hydrated day 2026-03-09: 0 completed, 0 skipped"));
+}
+
+TEST(Events, AuthorizationIsAskedOnce) {
+    EXPECT_EQ(printed(launched, "quit\nlaunch\n"),
+              logged("08:00:00.000", "right click enabled on the status item", "StatusItem") +
+                  logged("08:00:00.000", "work 20 min → break at 08:20 (next break long: false)") +
+                  logged("08:00:00.000", "hydrated day 2026-03-09: 0 completed, 0 skipped"));
+}
+
+TEST(Events, MainWindowOfEachFirstRunBringsThePlaceAmongTheTasks) {
+    EXPECT_EQ(simulate("launch\nexpect-event dock policy regular\nforget-events\nquit\n"
+                       "expect-event dock policy null\nlaunch\nexpect-event dock policy regular\n"
+                       "kill\nforget-events\nlaunch\nexpect-event dock policy regular\n"
+                       "finish-onboarding\nquit\nforget-events\nlaunch\nexpect-event dock policy null\n")
+                  .errors,
+              "");
+}
+
+TEST(Events, OfAMidnight) {
+    EXPECT_EQ(printed("clock 2026-03-09T23:59:59Z\npref hasCompletedOnboarding bool true\nlaunch\n"
+                      "pref dailySummaryEnabled bool false\n",
+                      "run 1\n"),
+              R"({"event":"log","at":"2026-03-10T00:00:00.000Z","level":"info","category":"BreakEngine",)"
+              "\"text\":\"day rollover 2026-03-09 → 2026-03-10\"}\n"
+              R"({"event":"log","at":"2026-03-10T00:00:00.000Z","level":"info","category":"BreakEngine",)"
+              R"("text":"hydrated day 2026-03-10: 0 completed, 0 skipped"})"
+              "\n");
 }
 
 TEST(Events, OfAWholeBreak) {

@@ -27,21 +27,23 @@ TEST(Expect, ReportsWhatItGotAndGoesOn) {
                                                       "expect engine reason manual\n"
                                                       "expect engine canSnooze true\n"
                                                       "expect engine endsAt null\n"
-                                                      "show prefs\n"));
+                                                      "show status-item\n"));
     EXPECT_EQ(run.status, 1);
     EXPECT_EQ(run.errors, "-:3: expected engine state onBreak, got working\n"
                           "-:4: expected engine config.workInterval 900, got 1200.0\n"
                           "-:5: expected engine reason manual, got null\n"
                           "-:6: expected engine canSnooze true, got false\n"
                           "-:7: expected engine endsAt null, got 2026-03-09T08:20:00.000Z\n");
-    EXPECT_EQ(run.output, "{\"show\":\"prefs\",\"values\":{\"hasCompletedOnboarding\":true}}\n");
+    EXPECT_EQ(run.output, "{\"show\":\"status-item\",\"symbol\":\"eye\",\"text\":\"20:00\"}\n");
 }
 
 TEST(Expect, ComparesListsAndObjectsAsCompactJson) {
     const SimulatorRun run = simulate(
         after(inBreak, R"(expect overlay controls "[\"+1 min\",\"+3 min\",\"+5 min\",\"Skip in 5\"]")"
                        "\n"
-                       R"(expect prefs values "{\"hasCompletedOnboarding\":true}")"
+                       R"(expect prefs values "{\"didRequestNotificationAuthorization\":true,)"
+                       R"(\"hasCompletedOnboarding\":true,)"
+                       R"(\"lastPrunedDayStart\":\"2026-03-09T00:00:00.000Z\"}")"
                        "\n"
                        "expect overlay controls []\n"));
     EXPECT_EQ(run.status, 1);
@@ -89,7 +91,7 @@ TEST(ExpectEvent, ComparesTheLatestOfItsKindWithEventsOff) {
                                                      "expect-event windows at 2026-03-09T08:20:00.000Z\n"
                                                      "expect-event windows event windows\n"
                                                      "expect-event notification sound false\n"
-                                                     "expect-event log text \"break 20 s → ends 08:20\"\n"
+                                                     "expect-event log text \"flushed 1 bucket(s)\"\n"
                                                      "expect-event log no.such.key null\n"));
     EXPECT_EQ(run.status, 0) << run.errors;
     EXPECT_EQ(run.output, "");

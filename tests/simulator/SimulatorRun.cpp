@@ -36,7 +36,8 @@ class Streams {
     posix_spawn_file_actions_t actions_{};
 };
 
-int statusOf(std::vector<std::string> words, const Streams& streams) {
+/// The exit status, and the process that had it.
+std::pair<int, pid_t> outcomeOf(std::vector<std::string> words, const Streams& streams) {
     std::vector<char*> arguments;
     arguments.reserve(words.size() + 1);
     for (std::string& word : words) {
@@ -50,7 +51,7 @@ int statusOf(std::vector<std::string> words, const Streams& streams) {
     }
     int status = 0;
     waitpid(process, &status, 0);
-    return WIFSIGNALED(status) ? 128 + WTERMSIG(status) : WEXITSTATUS(status);
+    return {WIFSIGNALED(status) ? 128 + WTERMSIG(status) : WEXITSTATUS(status), process};
 }
 
 } // namespace
@@ -61,8 +62,8 @@ SimulatorRun runSimulator(const std::vector<std::string>& arguments, std::string
     const Streams streams(folder, "errors");
     std::vector<std::string> words{KESTRELFEN_SIMULATOR};
     words.insert(words.end(), arguments.begin(), arguments.end());
-    const int status = statusOf(std::move(words), streams);
-    return {status, contentOf(folder / "output"), contentOf(folder / "errors")};
+    const auto [status, process] = outcomeOf(std::move(words), streams);
+    return {status, contentOf(folder / "output"), contentOf(folder / "errors"), process};
 }
 
 SimulatorRun simulate(std::string_view scenario) {
@@ -73,7 +74,7 @@ std::string everythingWritten(std::string_view scenario) {
     const TemporaryFolder folder;
     writeInPlace(folder / "input", scenario);
     const Streams streams(folder, "output");
-    statusOf({KESTRELFEN_SIMULATOR}, streams);
+    outcomeOf({KESTRELFEN_SIMULATOR}, streams);
     return contentOf(folder / "output");
 }
 
@@ -84,6 +85,18 @@ std::vector<std::string> linesOf(const std::string& text) {
         lines.push_back(line);
     }
     return lines;
+}
+
+std::string timerEventsOf(const std::string& output) {
+    std::string events;
+    for (const std::string& line : linesOf(output)) {
+        const auto tells = [&](const char* text) { return line.find(text) != std::string::npos; };
+        if (!tells(R"("event":"audio")") && !tells(R"("event":"flush")") &&
+            !tells(R"("category":"ScreenTime")")) {
+            events += line + '\n';
+        }
+    }
+    return events;
 }
 
 } // namespace kestrelfen

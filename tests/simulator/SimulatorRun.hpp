@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <sys/types.h>
 #include <vector>
 
 namespace kestrelfen {
@@ -12,6 +13,7 @@ struct SimulatorRun {
     int status = 0;
     std::string output;
     std::string errors;
+    pid_t process = 0;
 };
 
 /// Starts the program with these arguments and `input` as its standard input, and waits for its end.
@@ -25,6 +27,9 @@ std::string everythingWritten(std::string_view scenario);
 
 /// `text` cut at its line feeds.
 std::vector<std::string> linesOf(const std::string& text);
+
+/// The events of `output` that are the timer's own: without those of sound and screen time.
+std::string timerEventsOf(const std::string& output);
 
 /// A program that works, from the first line on.
 inline constexpr std::string_view launched = "pref hasCompletedOnboarding bool true\nlaunch\n";

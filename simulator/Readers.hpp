@@ -1,0 +1,37 @@
+#pragma once
+
+#include "Arguments.hpp"
+#include "Json.hpp"
+
+#include <array>
+#include <string_view>
+
+namespace kestrelfen {
+
+class Simulation;
+
+/// Makes one reading, without its name, of the words that belong to it. Throws a ScenarioError.
+using Reader = Json (*)(Simulation&, Arguments&);
+
+struct NamedReader {
+    std::string_view name;
+    Reader reader;
+};
+
+/// Null where `readers` has none of that name.
+template <std::size_t count>
+constexpr Reader readerNamed(const std::array<NamedReader, count>& readers, std::string_view name) {
+    for (const NamedReader& known : readers) {
+        if (known.name == name) {
+            return known.reader;
+        }
+    }
+    return nullptr;
+}
+
+// Each answers null where it has no reader of that name.
+Reader viewReader(std::string_view name);
+Reader senseReader(std::string_view name);
+Reader historyReader(std::string_view name);
+
+} // namespace kestrelfen
