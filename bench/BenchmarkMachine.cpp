@@ -46,7 +46,8 @@ std::string_view BenchmarkMachine::name(Moment moment) {
 BenchmarkMachine::BenchmarkMachine(Ports ports, Moment moment)
     : realPreferences_(folder_ / "preferences.json", fake_.log, fake_.mainQueue), ports_(choosePorts(ports)) {
     fill(ports_.preferences);
-    program_ = std::make_unique<SimulatedProgram>(ports_, [](std::string_view) {});
+    program_ = std::make_unique<SimulatedProgram>(
+        ports_, StoreConfiguration{folder_ / StoreConfiguration::fileName, {}, {}}, [](std::string_view) {});
     face_ = engine().observe([this] { ++facesChanges_; });
     program_->delegate().applicationDidFinishLaunching();
     pass(1);
@@ -60,10 +61,30 @@ Platform BenchmarkMachine::choosePorts(Ports ports) {
     if (ports == Ports::byHand) {
         return byHand;
     }
-    return {byHand.clock,           realCalendar_,         byHand.timeFormat, byHand.mainQueue,
-            byHand.ticker,          realPreferences_,      byHand.inputIdle,  byHand.systemSignals,
-            byHand.displays,        byHand.programFocus,   byHand.notifier,   byHand.sessionLock,
-            byHand.statusBarButton, byHand.standardOutput, byHand.log};
+    return {byHand.clock,
+            realCalendar_,
+            byHand.timeFormat,
+            byHand.mainQueue,
+            byHand.storeExecutor,
+            byHand.ticker,
+            realPreferences_,
+            byHand.inputIdle,
+            byHand.systemSignals,
+            byHand.displays,
+            byHand.displayPower,
+            byHand.applications,
+            byHand.windowList,
+            byHand.audioProcesses,
+            byHand.browserAccess,
+            byHand.programFocus,
+            byHand.activationPolicy,
+            byHand.interfaceAppearance,
+            byHand.notificationAuthorization,
+            byHand.notifier,
+            byHand.sessionLock,
+            byHand.statusBarButton,
+            byHand.standardOutput,
+            byHand.log};
 }
 
 void BenchmarkMachine::bringTo(Moment moment) {
@@ -89,7 +110,8 @@ void BenchmarkMachine::bringTo(Moment moment) {
 void BenchmarkMachine::pass(double seconds) {
     fake_.clock.advance(seconds);
     engine().tick(fake_.clock.now());
-    fake_.mainQueue.drain();
+    while (fake_.mainQueue.drain() || fake_.storeExecutor.drain()) {
+    }
 }
 
 } // namespace kestrelfen

@@ -13,4 +13,7 @@ void registerCalendarBenchmarks(RatioReporter& reporter);
 /// What the views ask for: the gates, and everything that they show.
 void registerContentBenchmarks(RatioReporter& reporter);
 
+/// What is asked of a history of one year and of ten.
+void registerStoreBenchmarks(RatioReporter& reporter);
+
 } // namespace kestrelfen

@@ -15,6 +15,7 @@ int main(int count, char** arguments) {
     kestrelfen::registerTickBenchmarks(reporter);
     kestrelfen::registerCalendarBenchmarks(reporter);
     kestrelfen::registerContentBenchmarks(reporter);
+    kestrelfen::registerStoreBenchmarks(reporter);
     benchmark::RunSpecifiedBenchmarks(&reporter);
     return kestrelfen::hasFailed() ? 1 : 0;
 }

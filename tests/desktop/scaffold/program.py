@@ -17,13 +17,16 @@ QUICK = {"idleMode": "off", "enforcementLevel": "casual", "workIntervalSeconds":
 
 
 class Program:
-    """One run, with preferences and folders of its own. A variable of `environment` that is None is left out."""
+    """One run, with preferences and folders of its own, or those in `home`, that of an earlier run. A variable of
+    `environment` that is None is left out."""
 
-    def __init__(self, desktop, preferences, environment=None):
+    def __init__(self, desktop, preferences, environment=None, home=None):
         if not os.access(BINARY, os.X_OK):
             raise AssertionError("KESTRELFEN does not name the program to test")
         self._desktop = desktop
-        folder = Path(tempfile.mkdtemp(prefix="run-", dir=desktop.folder))
+        folder = home or Path(tempfile.mkdtemp(prefix="run-", dir=desktop.folder))
+        self.home = folder
+        self.store_file = folder / "data" / "kestrelfen" / "Kestrelfen.sqlite"
         self.preference_file = folder / "config" / "kestrelfen" / "preferences.json"
         self.write_preferences(preferences)
         folders = {"XDG_CONFIG_HOME": str(folder / "config"), "XDG_DATA_HOME": str(folder / "data")}
