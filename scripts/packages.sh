@@ -4,7 +4,10 @@
 packages_to_build=(
     g++ cmake ninja-build pkg-config qt6-base-dev qt6-declarative-dev
     qml6-module-qtqml qml6-module-qtqml-workerscript qml6-module-qtquick
-    libxcb1-dev libxcb-screensaver0-dev nlohmann-json3-dev
+    libxcb1-dev libxcb-dpms0-dev libxcb-res0-dev libxcb-screensaver0-dev
+    nlohmann-json3-dev libsqlitecpp-dev libsqlite3-dev
+    libpulse-dev
+    libwayland-dev libwayland-bin wayland-protocols
 )
 packages_to_start=(fonts-inter fonts-jetbrains-mono tzdata)
 packages_to_reach_a_display=(x11-utils)
@@ -12,17 +15,25 @@ packages_to_reach_a_display=(x11-utils)
 packages_for_a_desktop=(xvfb openbox tint2 dunst dbus dbus-x11 imagemagick x11-utils xdotool)
 packages_to_test=(
     libgtest-dev libgmock-dev libbenchmark-dev clang-format
-    "${packages_for_a_desktop[@]}" at-spi2-core xterm x11-xserver-utils python3 python3-dbus python3-gi
+    "${packages_for_a_desktop[@]}" at-spi2-core xterm x11-xserver-utils python3 python3-dbus python3-dbusmock python3-gi
+    pulseaudio pulseaudio-utils
+    sway foot wtype
 )
+# Ubuntu has it as a snap only; where it is not installed, the tests with a real browser are skipped.
+if grep -qsx 'ID=debian' /etc/os-release; then
+    packages_to_test+=(chromium)
+fi
 packages_to_tidy=(clang-tidy)
 
 fedora_packages="gcc-c++ cmake ninja-build pkgconf qt6-qtbase-devel qt6-qtdeclarative-devel \
 libxcb-devel json-devel rsms-inter-fonts jetbrains-mono-fonts xorg-x11-server-Xvfb openbox tint2 dunst \
 dbus-daemon ImageMagick xdpyinfo gtest-devel gmock-devel google-benchmark-devel clang-tools-extra at-spi2-core xterm \
-xdotool xset xrandr xprop xwininfo python3-dbus python3-gobject"
+xdotool xset xrandr xprop xwininfo python3-dbus python3-gobject python3-dbusmock pulseaudio-libs-devel pulseaudio \
+pulseaudio-utils sqlitecpp-devel sqlite-devel wayland-devel wayland-protocols-devel sway foot wtype"
 arch_packages="gcc cmake ninja pkgconf qt6-base qt6-declarative libxcb nlohmann-json inter-font \
 ttf-jetbrains-mono xorg-server-xvfb openbox tint2 dunst dbus imagemagick xorg-xdpyinfo gtest benchmark clang \
-at-spi2-core xterm xdotool xorg-xset xorg-xrandr xorg-xprop xorg-xwininfo python-dbus python-gobject"
+at-spi2-core xterm xdotool xorg-xset xorg-xrandr xorg-xprop xorg-xwininfo python-dbus python-gobject python-dbusmock \
+libpulse pulseaudio sqlitecpp sqlite wayland wayland-protocols sway foot wtype"
 
 # Prints those of the packages that are not installed.
 missing_packages() {
@@ -93,7 +104,8 @@ require_tools() {
     for tool in c++ cmake ninja pkg-config; do
         command -v "$tool" >/dev/null || lacking+=("$tool")
     done
-    for tool in Qt6Core Qt6Quick xcb-screensaver nlohmann_json; do
+    for tool in Qt6Core Qt6Quick xcb-dpms xcb-res xcb-screensaver nlohmann_json sqlite3 libpulse \
+        wayland-client wayland-scanner wayland-protocols; do
         pkg-config --exists "$tool" 2>/dev/null || lacking+=("$tool")
     done
     if [ "${#lacking[@]}" -eq 0 ]; then
