@@ -1,5 +1,8 @@
 #include "platform/JsonPreferencesFixture.hpp"
 
+#include <atomic>
+#include <thread>
+
 namespace kestrelfen {
 namespace {
 
@@ -148,4 +151,44 @@ TEST_F(JsonPreferencesReload, whatAnObserverOfAReloadSetsIsWrittenToo) {
 }
 
 } // namespace
+
+/// Writes the file from outside, as an editor does, in the very moment in which a draft of the new one lies there.
+class EditorDuringWriting {
+  public:
+    EditorDuringWriting(std::filesystem::path file, std::string content)
+        : thread_([this, draft = file.parent_path() / ("." + file.filename().string() + ".new"), file, content] {
+              while (!isOver_ && !std::filesystem::exists(draft)) {
+              }
+              if (!isOver_) {
+                  writeInPlace(file, content);
+              }
+          }) {}
+
+    ~EditorDuringWriting() {
+        isOver_ = true;
+        thread_.join();
+    }
+
+  private:
+    std::atomic<bool> isOver_ = false;
+    std::thread thread_;
+};
+
+TEST_F(JsonPreferencesReload, anEditMadeWhileTheFileIsBeingReplacedIsNotLost) {
+    const auto preferences = openWith(R"({"count": 0})");
+    // Long enough for the disk to be busy with it for a while.
+    preferences->set("bulk", PreferenceData(2'000'000, 'k'));
+    {
+        const EditorDuringWriting editor(file(), R"({"outside": 7})");
+        drain();
+    }
+    drainAfter(2);
+    preferences->reloadIfChanged();
+    drain();
+    EXPECT_EQ(preferences->integer("outside"), 7);
+    EXPECT_EQ(preferences->data("bulk")->size(), 2'000'000U);
+    EXPECT_EQ(open()->integer("outside"), 7);
+    EXPECT_EQ(open()->data("bulk")->size(), 2'000'000U);
+}
+
 } // namespace kestrelfen

@@ -67,6 +67,11 @@ AtomicFile::AtomicFile(std::filesystem::path path)
     : path_(std::move(path)), draftPath_(path_.parent_path() / ("." + path_.filename().string() + ".new")) {}
 
 std::error_code AtomicFile::replace(std::string_view content) const {
+    return replaceIf(content, [] { return true; });
+}
+
+std::error_code AtomicFile::replaceIf(std::string_view content,
+                                      const std::function<bool()>& mayReplace) const {
     // A file that the person has made read-only is not to be replaced behind their back.
     if (::faccessat(AT_FDCWD, path_.c_str(), W_OK, AT_EACCESS) != 0 && errno != ENOENT) {
         return lastError();
@@ -80,7 +85,7 @@ std::error_code AtomicFile::replace(std::string_view content) const {
     }
     auto error = fill(draft, content);
     if (!error) {
-        error = putInPlace();
+        error = mayReplace() ? putInPlace() : std::make_error_code(std::errc::operation_canceled);
     }
     if (error) {
         ::unlink(draftPath_.c_str());

@@ -3,6 +3,7 @@
 #include "platform/posix/FileDescriptor.hpp"
 
 #include <filesystem>
+#include <functional>
 #include <string_view>
 #include <system_error>
 
@@ -19,6 +20,10 @@ class AtomicFile {
     /// Puts `content` in the file's place. An existing file's permissions are kept; a new file and the
     /// folders that are made for it are the person's alone. After an error everything is as before.
     std::error_code replace(std::string_view content) const;
+
+    /// The same, but asks `mayReplace` once the new content is safe on the disk, which takes its time; where the
+    /// answer is false nothing is replaced and the error is std::errc::operation_canceled.
+    std::error_code replaceIf(std::string_view content, const std::function<bool()>& mayReplace) const;
 
   private:
     std::error_code openDraft(FileDescriptor& draft) const;

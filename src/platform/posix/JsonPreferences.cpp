@@ -16,6 +16,9 @@ constexpr double settlingSeconds = 1;
 
 constexpr double retrySeconds = 60;
 
+/// Of one turn, to write the file while others write it too.
+constexpr int mostAttempts = 5;
+
 } // namespace
 
 std::filesystem::path JsonPreferences::standardPath() {
@@ -52,6 +55,7 @@ void JsonPreferences::flush() {
 void JsonPreferences::load(Patience patience) {
     const PreferenceFile::Reading reading = file_.read();
     stamp_ = reading.stamp;
+    text_ = reading.text;
     switch (reading.outcome) {
     case PreferenceFile::Reading::Outcome::absent:
         adopt({});
@@ -109,6 +113,7 @@ void JsonPreferences::setAside(const std::string& problem) {
         return;
     }
     stamp_ = {};
+    text_.clear();
     condition_ = Condition::good;
     mustRestore_ = !document_.isEmpty();
     const char* const consequence = hasUnwritten() ? "the preferences in force are kept and written anew."
@@ -156,33 +161,46 @@ void JsonPreferences::retryLater() {
 }
 
 void JsonPreferences::write(Patience patience) {
-    if (!hasUnwritten()) {
-        return;
+    for (int attempt = 0; attempt < mostAttempts && hasUnwritten(); ++attempt) {
+        // A hindrance may have gone without a trace in the file's dates.
+        if (condition_ != Condition::good || !stamp_.stillHolds(file_.stamp())) {
+            load(patience);
+        }
+        if (condition_ != Condition::good || !hasUnwritten()) {
+            return;
+        }
+        if (replaceFile()) {
+            return;
+        }
     }
-    // A hindrance may have gone without a trace in the file's dates.
-    if (condition_ != Condition::good || !stamp_.stillHolds(file_.stamp())) {
-        load(patience);
-    }
-    if (condition_ == Condition::good && hasUnwritten()) {
-        replaceFile();
+    if (hasUnwritten()) {
+        scheduleWrite();
     }
 }
 
-void JsonPreferences::replaceFile() {
+/// False when somebody else has written the file in the meantime, so that it is to be read first.
+bool JsonPreferences::replaceFile() {
     PreferenceDocument document = documentWithEdits();
     if (mustRestore_ || document != document_) {
-        if (const auto error = file_.replace(document.text())) {
+        std::string text = document.text();
+        const auto error = file_.replace(text_, text);
+        if (error == std::errc::operation_canceled) {
+            return false;
+        }
+        if (error) {
             reportTrouble("cannot be written: " + error.message() +
                           ". Preferences are kept in memory until it can.");
             retryLater();
-            return;
+            return true;
         }
         stamp_ = file_.stamp();
+        text_ = std::move(text);
         document_ = std::move(document);
         reportRecovery("can be written again, and holds the preferences in force.");
     }
     mustRestore_ = false;
     edited_.clear();
+    return true;
 }
 
 PreferenceDocument JsonPreferences::documentWithEdits() const {

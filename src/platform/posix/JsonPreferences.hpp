@@ -65,7 +65,7 @@ class JsonPreferences final : public Preferences {
     void scheduleWrite();
     void retryLater();
     void write(Patience patience);
-    void replaceFile();
+    bool replaceFile();
     PreferenceDocument documentWithEdits() const;
 
     void reportTrouble(const std::string& line);
@@ -76,6 +76,8 @@ class JsonPreferences final : public Preferences {
     MainQueue& queue_;
     PreferenceTable table_;
     PreferenceDocument document_;
+    /// What the file held when it was last read or written; empty without a file.
+    std::string text_;
     PreferenceStamp stamp_;
     Condition condition_ = Condition::good;
     /// Keys set or removed here and not written yet, in the order in which that began.

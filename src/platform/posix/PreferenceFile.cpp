@@ -80,8 +80,8 @@ PreferenceFile::Reading PreferenceFile::read() const {
     return reading;
 }
 
-std::error_code PreferenceFile::replace(std::string_view content) const {
-    return AtomicFile(target()).replace(content);
+std::error_code PreferenceFile::replace(std::string_view known, std::string_view content) const {
+    return AtomicFile(target()).replaceIf(content, [this, known] { return read().text == known; });
 }
 
 PreferenceFile::SettingAside PreferenceFile::setAside() const {

@@ -40,8 +40,10 @@ class PreferenceFile {
 
     Reading read() const;
 
-    /// Replaces the file as a whole; see AtomicFile.
-    std::error_code replace(std::string_view content) const;
+    /// Replaces the file as a whole; see AtomicFile. Where it reads no longer as `known` the moment before,
+    /// somebody else has just written it: then it is left alone and the error is
+    /// std::errc::operation_canceled. No file reads as an empty text.
+    std::error_code replace(std::string_view known, std::string_view content) const;
 
     /// Moves the file to the first free one of NAME.damaged-1.EXT, NAME.damaged-2.EXT … in its folder.
     SettingAside setAside() const;
