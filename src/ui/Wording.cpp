@@ -1,0 +1,66 @@
+#include "ui/Wording.hpp"
+
+#include <algorithm>
+#include <array>
+
+namespace kestrelfen {
+
+namespace {
+
+struct Replacement {
+    std::string_view text;
+    std::string_view shown;
+};
+
+constexpr std::array replacements{
+    Replacement{"The Mac slept. Resumes on wake.", "The computer slept. Resumes on wake."},
+    Replacement{"Start the timer from the menu bar.", "Start the timer from the tray."},
+    Replacement{"SMAppService · also in the menu bar", "Starts with your session, in the tray"},
+    Replacement{"Registered through SMAppService", "Starts with your session, in the tray"},
+    Replacement{"Lock my Mac when a break starts", "Lock my computer when a break starts"},
+    Replacement{"Apps that only run while capturing — not ones that idle in the menu bar",
+                "Apps that only run while capturing — not ones that idle in the tray"},
+    Replacement{
+        "This Mac won't report per-app audio, so calls and video fall back to whichever app is frontmost.",
+        "The sound server won't report per-app audio, so calls and video fall back to whichever app is "
+        "frontmost."},
+    Replacement{"Detected from microphone and audio activity, running apps, and the frontmost app. No new "
+                "permissions, and nothing leaves your Mac.",
+                "Detected from microphone and audio activity, running apps, and the frontmost app. No new "
+                "permissions, and nothing leaves your computer."},
+    Replacement{"A manual pause from the menu bar always works, and is never lifted by a system event.",
+                "A manual pause from the tray always works, and is never lifted by a system event."},
+    Replacement{"Displays turn off but the Mac stays awake",
+                "Displays turn off but the computer stays awake"},
+    Replacement{"When the Mac sleeps", "When the computer sleeps"},
+    Replacement{"Only the domain of the tab you're looking at — example.com, not the full address, the page "
+                "title, or anything on the page. It is stored on this Mac and never sent anywhere. macOS "
+                "asks you to approve each browser separately.",
+                "Only the domain of the tab you're looking at — example.com, not the full address, the page "
+                "title, or anything on the page. It is stored on this computer and never sent anywhere. It "
+                "is read through the desktop's accessibility support, which turning a browser on switches "
+                "on."},
+    Replacement{"Denied in System Settings › Privacy & Security › Automation",
+                "The desktop's accessibility support cannot be switched on"},
+    Replacement{"macOS will ask when you allow it", "Start the browser again after allowing it"},
+    Replacement{"Closed — it will be opened so macOS can ask", "Closed — it will be opened to be read"},
+    Replacement{
+        "Unsupported browsers, including Firefox, do not expose the current tab to other apps, so they "
+        "cannot be included.",
+        "Other browsers, including Firefox, are not read."},
+    Replacement{"Follows the macOS appearance setting", "Follows the desktop's appearance setting"},
+    Replacement{"Applied to the whole app, so the break overlays and the menu bar popover follow it too.",
+                "Applied to the whole app, so the break overlays and the tray popover follow it too."},
+    Replacement{"Stored in SwiftData behind a versioned schema · pruning runs at most once a day",
+                "Stored in SQLite behind a versioned schema · pruning runs at most once a day"},
+};
+
+} // namespace
+
+std::string_view worded(std::string_view text) {
+    const auto found = std::find_if(replacements.begin(), replacements.end(),
+                                    [text](const Replacement& row) { return row.text == text; });
+    return found == replacements.end() ? text : found->shown;
+}
+
+} // namespace kestrelfen
