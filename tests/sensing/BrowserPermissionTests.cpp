@@ -41,7 +41,16 @@ TEST_F(BrowserPermissionTest, MapsTheCodesOfTheSystem) {
         for (const int other : {1, -1, -1742, -1745, -601, -599, -50, 600}) {
             EXPECT_EQ(permissionFor(other, askUser), AutomationPermission::notDetermined) << other;
         }
+        EXPECT_EQ(trace.take().empty(), !askUser);
     }
+}
+
+TEST_F(BrowserPermissionTest, ThePersonIsAskedOnlyWhereThatIsWanted) {
+    setPermission(Browser::chrome, FakeBrowserPermission::notDetermined);
+    scripting->determinePermission(Browser::chrome, false);
+    EXPECT_EQ(happened(), "");
+    scripting->determinePermission(Browser::chrome, true);
+    EXPECT_EQ(happened(), lines({"08:00:00 ask com.google.Chrome"}));
 }
 
 TEST_F(BrowserPermissionTest, ATargetThatCannotBeNamedIsUndetermined) {
@@ -66,7 +75,7 @@ TEST_F(BrowserPermissionTest, ARunningBrowserIsAskedWithoutALaunch) {
     request();
     EXPECT_EQ(happened(), "") << "the question leaves the main thread";
     platform.mainQueue.drain();
-    EXPECT_EQ(happened(), lines({"08:00:00 answer granted"}));
+    EXPECT_EQ(happened(), lines({"08:00:00 ask com.google.Chrome", "08:00:00 answer granted"}));
 }
 
 TEST_F(BrowserPermissionTest, ABrowserInTheListOfTasksRuns) {
@@ -75,7 +84,7 @@ TEST_F(BrowserPermissionTest, ABrowserInTheListOfTasksRuns) {
     access.setStatus(chrome, -1743);
     request();
     platform.mainQueue.drain();
-    EXPECT_EQ(happened(), lines({"08:00:00 answer denied"}));
+    EXPECT_EQ(happened(), lines({"08:00:00 ask com.google.Chrome", "08:00:00 answer denied"}));
 }
 
 TEST_F(BrowserPermissionTest, AClosedBrowserIsLaunchedFirst) {
@@ -84,8 +93,8 @@ TEST_F(BrowserPermissionTest, AClosedBrowserIsLaunchedFirst) {
     access.setStatus(chrome, 0);
     request();
     platform.mainQueue.drain();
-    EXPECT_EQ(happened(),
-              lines({"08:00:00 prepare", "08:00:00 launch com.google.Chrome", "08:00:00 answer granted"}));
+    EXPECT_EQ(happened(), lines({"08:00:00 prepare", "08:00:00 launch com.google.Chrome",
+                                 "08:00:00 ask com.google.Chrome", "08:00:00 answer granted"}));
 }
 
 TEST_F(BrowserPermissionTest, ASlowBrowserIsAskedAtTheFirstLookThatFindsIt) {
@@ -101,7 +110,7 @@ TEST_F(BrowserPermissionTest, ASlowBrowserIsAskedAtTheFirstLookThatFindsIt) {
     platform.mainQueue.drain();
     EXPECT_EQ(happened(), "");
     advance(0.15);
-    EXPECT_EQ(happened(), lines({"08:00:01.75 answer granted"}));
+    EXPECT_EQ(happened(), lines({"08:00:01.75 ask com.google.Chrome", "08:00:01.75 answer granted"}));
 }
 
 TEST_F(BrowserPermissionTest, AFailingLaunchCostsFiveSecondsAndThenTellsWhatTheSystemSays) {
@@ -112,7 +121,7 @@ TEST_F(BrowserPermissionTest, AFailingLaunchCostsFiveSecondsAndThenTellsWhatTheS
     pass(19);
     EXPECT_EQ(happened(), lines({"08:00:00 prepare", "08:00:00 launch com.google.Chrome"}));
     pass(1);
-    EXPECT_EQ(happened(), lines({"08:00:05 answer notRunning"}));
+    EXPECT_EQ(happened(), lines({"08:00:05 ask com.google.Chrome", "08:00:05 answer notRunning"}));
     pass(40);
 }
 
@@ -151,6 +160,7 @@ TEST_F(BrowserPermissionTest, AnAnswerThatComesAfterTheAskersEndReachesNobody) {
     request();
     scripting.reset();
     platform.mainQueue.drain();
+    EXPECT_EQ(happened(), lines({"08:00:00 ask com.google.Chrome"}));
 }
 
 } // namespace

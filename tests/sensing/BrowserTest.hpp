@@ -10,11 +10,13 @@
 
 namespace kestrelfen {
 
-/// A test of what is asked of browsers. Scripts, launches and log lines go into the trace.
+/// A test of what is asked of browsers. Scripts, questions to the person, launches and log lines go into the
+/// trace.
 class BrowserTest : public testing::Test {
   protected:
     BrowserTest() {
         access.onScript = [this](const std::string& identifier) { trace.add("script " + identifier); };
+        access.onAskUser = [this](const std::string& identifier) { trace.add("ask " + identifier); };
         access.onPrepareLaunch = [this] { trace.add("prepare"); };
         access.onRelease = [this] { trace.add("release"); };
         applications.onLaunch = [this](const std::string& identifier) { trace.add("launch " + identifier); };

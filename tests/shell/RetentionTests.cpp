@@ -62,6 +62,34 @@ TEST_F(RetentionTest, UnknownNumberOfDaysCountsAsAYear) {
     EXPECT_EQ(dayCount(), 1U);
 }
 
+TEST_F(RetentionTest, WithoutAChoiceAYearIsKeptAndTheLineIsInformation) {
+    rememberDayBefore(365);
+    rememberDayBefore(366);
+    std::vector<FakeLog::Line> said;
+    platform.log.onLine = [&said](const FakeLog::Line& line) {
+        if (line.category == "Retention") {
+            said.push_back(line);
+        }
+    };
+    launch();
+    EXPECT_EQ(dayCount(), 1U);
+    const FakeLog::Line expected{LogLevel::info, "Retention", "retention 365d removed 1 day(s)"};
+    EXPECT_EQ(said, std::vector{expected});
+    platform.log.onLine = {};
+}
+
+TEST_F(RetentionTest, OldDaysGoOnceTheCountsOfTheDayHaveCome) {
+    rememberDayBefore(400);
+    delegate().applicationDidFinishLaunching();
+    settle();
+    const std::string text = happened();
+    const auto hydrated = text.find("hydrated day 2026-03-09");
+    const auto pruned = text.find("pruned 1 day record(s)");
+    ASSERT_NE(hydrated, std::string::npos) << text;
+    ASSERT_NE(pruned, std::string::npos) << text;
+    EXPECT_LT(hydrated, pruned);
+}
+
 TEST_F(RetentionTest, ForeverNeitherPrunesNorMarksTheDay) {
     platform.preferences.set(retentionKey, std::int64_t{0});
     rememberDayBefore(4000);

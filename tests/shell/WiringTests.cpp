@@ -37,12 +37,16 @@ TEST_F(WiringTest, EachTickIsSampled) {
 TEST_F(WiringTest, IdleThresholdOfTheEngineIsTheTrackersToo) {
     platform.preferences.set("idleMode", std::string("custom"));
     platform.preferences.set("idleThresholdSeconds", 30.0);
-    platform.preferences.set("resumeAutomatically", false);
     launch();
     ticks(11);
+    // The engine looks at no age of input in a pause by hand: what stops the seconds is the tracker.
+    engine().pause(PauseReason::manual);
+    platform.inputIdle.setAge(30);
+    ticks(5);
+    EXPECT_DOUBLE_EQ(delegate().screenTime().todayActiveSeconds(), 15);
     platform.inputIdle.setAge(31);
     ticks(10);
-    EXPECT_DOUBLE_EQ(delegate().screenTime().todayActiveSeconds(), 10);
+    EXPECT_DOUBLE_EQ(delegate().screenTime().todayActiveSeconds(), 15);
 }
 
 TEST_F(WiringTest, SecondThatCrossesMidnightGoesToTheOldDay) {
@@ -78,6 +82,19 @@ TEST_F(WiringTest, CompletedBreakCreditsTheActiveTask) {
     Settings::setActiveTaskID(platform.preferences, task);
     beginBreak();
     tickAfter(20);
+    EXPECT_EQ(tasks().at(0).completedBreaks, 1);
+    EXPECT_EQ(tasks().at(1).completedBreaks, 0);
+}
+
+TEST_F(WiringTest, CreditGoesToTheTaskThatWasActiveWhenTheIntervalEnded) {
+    launch();
+    Settings::setActiveTaskID(platform.preferences, addTask("Write"));
+    const TaskID other = addTask("Read");
+    beginBreak();
+    platform.clock.advance(20);
+    platform.ticker.fire();
+    Settings::setActiveTaskID(platform.preferences, other);
+    settle();
     EXPECT_EQ(tasks().at(0).completedBreaks, 1);
     EXPECT_EQ(tasks().at(1).completedBreaks, 0);
 }

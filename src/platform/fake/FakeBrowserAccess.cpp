@@ -54,7 +54,10 @@ std::optional<BrowserAccess::ScriptResult> FakeBrowserAccess::run(std::string_vi
     return browser.answer;
 }
 
-std::optional<int> FakeBrowserAccess::permissionStatus(std::string_view bundleIdentifier, bool /*askUser*/) {
+std::optional<int> FakeBrowserAccess::permissionStatus(std::string_view bundleIdentifier, bool askUser) {
+    if (askUser && onAskUser) {
+        onAskUser(std::string(bundleIdentifier));
+    }
     const auto found = browsers_.find(bundleIdentifier);
     return found == browsers_.end() ? std::nullopt : found->second.status;
 }
