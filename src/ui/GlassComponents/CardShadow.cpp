@@ -26,6 +26,12 @@ void CardShadow::setCard(const QRectF& card) {
     emit lookChanged();
 }
 
+void CardShadow::setTint(const QColor& tint) {
+    tint_ = tint;
+    remake();
+    emit lookChanged();
+}
+
 QImage CardShadow::makePicture(const QSizeF& size, double ratio) const {
     QImage image((size * ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
     const QRectF caster = card_.translated(0, drop_);
@@ -36,7 +42,8 @@ QImage CardShadow::makePicture(const QSizeF& size, double ratio) const {
             const QPointF point((x + 0.5) / ratio, (y + 0.5) / ratio);
             const double share =
                 std::erfc(distanceOutside(point, caster, radius_) / (sigma * std::numbers::sqrt2)) / 2;
-            line[x] = qRgba(0, 0, 0, static_cast<int>(std::lround(255 * strength_ * share)));
+            line[x] = qPremultiply(qRgba(tint_.red(), tint_.green(), tint_.blue(),
+                                         static_cast<int>(std::lround(255 * strength_ * share))));
         }
     }
     QPainterPath card;

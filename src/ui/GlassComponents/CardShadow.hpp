@@ -7,8 +7,8 @@
 
 namespace kestrelfen {
 
-/// The shadow of a rounded card, cut out where the card lies so that a translucent card stays clean. The item
-/// fills the window; `card` is the place of the card in it.
+/// The shadow of a rounded card, cut out where the card lies so that a translucent card stays clean. `card`
+/// is its place in the item, which must leave room for the blur.
 class CardShadow : public kestrelfen::PictureItem {
     Q_OBJECT
     QML_ELEMENT
@@ -16,12 +16,14 @@ class CardShadow : public kestrelfen::PictureItem {
     Q_PROPERTY(double radius MEMBER radius_ NOTIFY lookChanged)
     Q_PROPERTY(double blur MEMBER blur_ NOTIFY lookChanged)
     Q_PROPERTY(double drop MEMBER drop_ NOTIFY lookChanged)
+    Q_PROPERTY(QColor tint MEMBER tint_ WRITE setTint NOTIFY lookChanged)
     Q_PROPERTY(double strength MEMBER strength_ NOTIFY lookChanged)
 
   public:
     using PictureItem::PictureItem;
 
     void setCard(const QRectF& card);
+    void setTint(const QColor& tint);
 
   signals:
     void lookChanged();
@@ -34,6 +36,7 @@ class CardShadow : public kestrelfen::PictureItem {
     double radius_ = 18;
     double blur_ = 18;
     double drop_ = 8;
+    QColor tint_ = Qt::black;
     double strength_ = 0.22;
 };
 

@@ -7,9 +7,9 @@ Item {
 
     required property double remaining
     required property string label
-    required property int diameter
-    required property int lineWidth
-    required property int labelSize
+    required property real diameter
+    required property real lineWidth
+    required property real labelSize
 
     implicitWidth: diameter
     implicitHeight: diameter
@@ -23,16 +23,16 @@ Item {
         lineWidth: ring.lineWidth
         track: Glass.rule
         tint: Glass.accent
+        isStill: Appearance.reducedMotion
     }
 
-    Text {
+    Label {
         anchors.centerIn: parent
         text: ring.label
-        color: Glass.ink
-        font.family: Appearance.monospaced
-        font.pixelSize: ring.labelSize
-        font.weight: Font.DemiBold
-        font.letterSpacing: -ring.labelSize * 0.04
+        size: ring.labelSize
+        weight: Font.DemiBold
+        monospaced: true
+        tracking: -ring.labelSize * 0.04
         Accessible.ignored: true
     }
 }

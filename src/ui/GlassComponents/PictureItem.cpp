@@ -29,7 +29,7 @@ QSGNode* PictureItem::updatePaintNode(QSGNode* node, UpdatePaintNodeData* /*data
     if (isStale_) {
         isStale_ = false;
         imageNode->setTexture(
-            window()->createTextureFromImage(makePicture(size(), window()->devicePixelRatio())));
+            window()->createTextureFromImage(makePicture(size(), window()->effectiveDevicePixelRatio())));
     }
     imageNode->setRect(pictureRect());
     return imageNode;

@@ -31,7 +31,7 @@ void RingArc::setRemaining(double remaining) {
     if (isSet_ && target == target_) {
         return;
     }
-    from_ = isSet_ ? shown_ : target;
+    from_ = isSet_ && !isStill_ ? shown_ : target;
     isSet_ = true;
     target_ = target;
     frame_ = 0;
@@ -58,6 +58,11 @@ void RingArc::sweep() {
 void RingArc::setLineWidth(double width) {
     lineWidth_ = width;
     update();
+    emit lookChanged();
+}
+
+void RingArc::setStill(bool isStill) {
+    isStill_ = isStill;
     emit lookChanged();
 }
 

@@ -14,6 +14,7 @@ class RingArc : public QQuickPaintedItem {
     QML_ELEMENT
     Q_PROPERTY(double remaining READ remaining WRITE setRemaining NOTIFY remainingChanged)
     Q_PROPERTY(double lineWidth MEMBER lineWidth_ WRITE setLineWidth NOTIFY lookChanged)
+    Q_PROPERTY(bool isStill MEMBER isStill_ WRITE setStill NOTIFY lookChanged)
     Q_PROPERTY(QColor track MEMBER track_ WRITE setTrack NOTIFY lookChanged)
     Q_PROPERTY(QColor tint MEMBER tint_ WRITE setTint NOTIFY lookChanged)
 
@@ -23,6 +24,8 @@ class RingArc : public QQuickPaintedItem {
     double remaining() const { return target_; }
     void setRemaining(double remaining);
     void setLineWidth(double width);
+    /// The arc jumps to a new value.
+    void setStill(bool isStill);
     void setTrack(const QColor& color);
     void setTint(const QColor& color);
 
@@ -39,6 +42,7 @@ class RingArc : public QQuickPaintedItem {
     double lineWidth_ = 8;
     QColor track_;
     QColor tint_;
+    bool isStill_ = false;
     bool isSet_ = false;
     double from_ = 0;
     double target_ = 0;

@@ -1,5 +1,6 @@
 #include "ui/GlassComponents/Wash.hpp"
 
+#include <QPainter>
 #include <QPointF>
 
 #include <algorithm>
@@ -49,7 +50,25 @@ QRgb pixel(const Shade& shade, std::uint32_t dither) {
     return 0xFF000000U | (channel(shade[0]) << 16U) | (channel(shade[1]) << 8U) | channel(shade[2]);
 }
 
+/// The same picture with round corners.
+QImage cut(const QImage& picture, double radius) {
+    QImage result(picture.size(), QImage::Format_ARGB32_Premultiplied);
+    result.fill(Qt::transparent);
+    QPainter painter(&result);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(picture);
+    painter.drawRoundedRect(result.rect(), radius, radius);
+    return result;
+}
+
 } // namespace
+
+void Wash::setRadius(double radius) {
+    radius_ = radius;
+    remake();
+    emit lookChanged();
+}
 
 void Wash::take(QColor& member, const QColor& color) {
     member = color;
@@ -79,6 +98,9 @@ QImage Wash::makePicture(const QSizeF& size, double ratio) const {
             line[x] =
                 pixel(shades[static_cast<std::size_t>(std::clamp(place, 0.0, double{steps}))], noise(state));
         }
+    }
+    if (radius_ > 0) {
+        image = cut(image, radius_ * ratio);
     }
     image.setDevicePixelRatio(ratio);
     return image;

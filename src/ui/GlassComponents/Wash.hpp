@@ -8,7 +8,7 @@
 namespace kestrelfen {
 
 /// An opaque diagonal gradient of three colours under two veils, with noise of less than one step against
-/// banding.
+/// banding, as a rectangle that may have round corners.
 class Wash : public kestrelfen::PictureItem {
     Q_OBJECT
     QML_ELEMENT
@@ -16,6 +16,7 @@ class Wash : public kestrelfen::PictureItem {
     Q_PROPERTY(QColor second MEMBER second_ WRITE setSecond NOTIFY lookChanged)
     Q_PROPERTY(QColor third MEMBER third_ WRITE setThird NOTIFY lookChanged)
     Q_PROPERTY(QColor blur MEMBER blur_ WRITE setBlur NOTIFY lookChanged)
+    Q_PROPERTY(double radius MEMBER radius_ WRITE setRadius NOTIFY lookChanged)
     Q_PROPERTY(QColor veil MEMBER veil_ WRITE setVeil NOTIFY lookChanged)
 
   public:
@@ -26,6 +27,9 @@ class Wash : public kestrelfen::PictureItem {
     void setThird(const QColor& color) { take(third_, color); }
     void setBlur(const QColor& color) { take(blur_, color); }
     void setVeil(const QColor& color) { take(veil_, color); }
+
+    /// Of the corners, which are cut off.
+    void setRadius(double radius);
 
   signals:
     void lookChanged();
@@ -41,6 +45,7 @@ class Wash : public kestrelfen::PictureItem {
     QColor third_;
     QColor blur_;
     QColor veil_;
+    double radius_ = 0;
 };
 
 } // namespace kestrelfen

@@ -1,0 +1,79 @@
+import QtQuick
+import Kestrelfen
+
+/// One entry of a menu, or a line between entries.
+Rectangle {
+    id: row
+
+    required property var modelData
+    readonly property var entry: modelData
+    readonly property bool isSeparator: entry.separator === true
+    readonly property bool isSelectable: !isSeparator && entry.enabled !== false
+    readonly property string spokenLabel: entry.label ?? ""
+    readonly property real naturalWidth: caption.implicitWidth + 40
+
+    signal taken
+    signal moved(int by)
+
+    implicitHeight: isSeparator ? 9 : 26
+    radius: 6
+    color: activeFocus || area.isDown ? Glass.prominent : "transparent"
+    enabled: isSelectable
+
+    Keys.forwardTo: [area]
+    Keys.onUpPressed: row.moved(-1)
+    Keys.onDownPressed: row.moved(1)
+    Keys.onTabPressed: row.moved(1)
+    Keys.onBacktabPressed: row.moved(-1)
+    Accessible.role: isSeparator ? Accessible.Separator : Accessible.MenuItem
+    Accessible.name: spokenLabel
+    Accessible.checkable: entry.checked !== undefined
+    Accessible.checked: entry.checked === true
+    Accessible.focusable: isSelectable
+    Accessible.onPressAction: area.act()
+
+    Rectangle {
+        anchors.centerIn: parent
+        visible: row.isSeparator
+        width: parent.width - 12
+        height: 1
+        color: Glass.rule
+    }
+
+    Label {
+        anchors.left: parent.left
+        anchors.leftMargin: 8
+        anchors.verticalCenter: parent.verticalCenter
+        visible: row.entry.checked === true
+        text: "✓"
+        size: 12
+        weight: Font.DemiBold
+        color: caption.color
+        Accessible.ignored: true
+    }
+
+    Label {
+        id: caption
+        anchors.left: parent.left
+        anchors.leftMargin: 26
+        anchors.right: parent.right
+        anchors.rightMargin: 12
+        anchors.verticalCenter: parent.verticalCenter
+        visible: !row.isSeparator
+        text: row.spokenLabel
+        size: 12.5
+        elide: Text.ElideRight
+        opacity: row.isSelectable ? 1 : 0.4
+        color: row.activeFocus || area.isDown ? Glass.overProminent : Glass.ink
+        Accessible.ignored: true
+    }
+
+    PressArea {
+        id: area
+        anchors.fill: parent
+        control: row
+        hoverEnabled: true
+        onEntered: row.forceActiveFocus(Qt.MouseFocusReason)
+        onActivated: row.taken()
+    }
+}

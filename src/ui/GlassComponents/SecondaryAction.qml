@@ -1,0 +1,7 @@
+import QtQuick
+import Kestrelfen
+
+/// The ordinary button.
+GlassButton {
+    radius: 11
+}

@@ -1,0 +1,26 @@
+import QtQuick
+import Kestrelfen
+
+/// A small coloured tag.
+Rectangle {
+    id: badge
+
+    required property string text
+    required property color tint
+
+    implicitWidth: caption.implicitWidth + 14
+    implicitHeight: caption.implicitHeight + 6
+    radius: 5
+    color: Glass.faded(tint, 0.14)
+
+    Label {
+        id: caption
+        anchors.centerIn: parent
+        text: badge.text
+        size: 9.5
+        weight: Font.DemiBold
+        tracking: 0.8
+        upperCased: true
+        color: badge.tint
+    }
+}
