@@ -28,7 +28,7 @@ const wl_registry_listener WaylandConnection::registryListener{
 
 const wl_callback_listener WaylandConnection::syncListener{
     .done = [](void* self, wl_callback*,
-               std::uint32_t) { static_cast<WaylandConnection*>(self)->hasGlobals_ = true; },
+               std::uint32_t) { static_cast<WaylandConnection*>(self)->hasAnswered_ = true; },
 };
 
 WaylandConnection::WaylandConnection() {
@@ -41,7 +41,7 @@ WaylandConnection::WaylandConnection() {
     }
     registry_ = wl_display_get_registry(display_);
     wl_registry_add_listener(registry_, &registryListener, this);
-    awaitGlobals();
+    settle();
     if (isBroken_) {
         return;
     }
@@ -57,14 +57,18 @@ WaylandConnection::~WaylandConnection() {
     }
 }
 
-void WaylandConnection::awaitGlobals() {
+void WaylandConnection::settle() {
+    if (isBroken_) {
+        return;
+    }
+    hasAnswered_ = false;
     const WaylandPointer<wl_callback> sync(wl_display_sync(display_));
     wl_callback_add_listener(sync.get(), &syncListener, this);
     const QDeadlineTimer deadline(patience);
-    while (!hasGlobals_ && !isBroken_ && !deadline.hasExpired()) {
+    while (!hasAnswered_ && !isBroken_ && !deadline.hasExpired()) {
         readWithin(static_cast<int>(deadline.remainingTime()));
     }
-    if (!hasGlobals_) {
+    if (!hasAnswered_) {
         isBroken_ = true;
         globals_.clear();
     }

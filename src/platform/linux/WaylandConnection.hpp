@@ -15,8 +15,9 @@ class QSocketNotifier;
 namespace kestrelfen {
 
 /// An own connection to the compositor that $WAYLAND_DISPLAY names, so that what happens on it wakes nobody
-/// else. Main thread only. It waits for the compositor once, while it is made, and not for long; then it is
-/// driven by the event loop. It may be broken from the start (there is no compositor) or become so.
+/// else. Main thread only. It waits for the compositor once, while it is made or told to, and not for long;
+/// else it is driven by the event loop. It may be broken from the start (there is no compositor) or become
+/// so.
 class WaylandConnection {
   public:
     /// What the compositor offers to bind to.
@@ -54,12 +55,13 @@ class WaylandConnection {
 
     /// Sends what was asked for.
     void flush();
+    /// Waits until all that was asked for is answered.
+    void settle();
 
   private:
     static const wl_registry_listener registryListener;
     static const wl_callback_listener syncListener;
 
-    void awaitGlobals();
     void readWithin(int milliseconds);
     void dispatch();
     void drain();
@@ -72,7 +74,7 @@ class WaylandConnection {
     std::vector<Global> globals_;
     Observers observers_;
     QSocketNotifier* notifier_ = nullptr;
-    bool hasGlobals_ = false;
+    bool hasAnswered_ = false;
     bool isBroken_ = false;
 };
 

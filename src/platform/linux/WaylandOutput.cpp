@@ -29,9 +29,9 @@ const wl_output_listener WaylandOutput::outputListener{
                    int transform) { of(self).setPlace(x, y, transform); },
     .mode = [](void* self, wl_output*, std::uint32_t flags, int width, int height,
                int) { of(self).setMode(flags, width, height); },
-    .done = [](void*, wl_output*) {},
+    .done = [](void* self, wl_output*) { of(self).told_(); },
     .scale = [](void* self, wl_output*, int scale) { of(self).scale_ = scale; },
-    .name = [](void*, wl_output*, const char*) {},
+    .name = [](void* self, wl_output*, const char* name) { of(self).name_ = name; },
     .description = [](void*, wl_output*, const char*) {},
 };
 
@@ -51,7 +51,8 @@ const zxdg_output_v1_listener WaylandOutput::logicalListener{
     .description = [](void*, zxdg_output_v1*, const char*) {},
 };
 
-WaylandOutput::WaylandOutput(wl_output* output, zxdg_output_manager_v1* manager) : output_(output) {
+WaylandOutput::WaylandOutput(wl_output* output, zxdg_output_manager_v1* manager, std::function<void()> told)
+    : output_(output), told_(std::move(told)) {
     wl_output_add_listener(output, &outputListener, this);
     if (manager) {
         logicalOutput_.reset(zxdg_output_manager_v1_get_xdg_output(manager, output));

@@ -2,7 +2,7 @@
 
 enable_language(C)
 find_package(PkgConfig REQUIRED)
-pkg_check_modules(KESTRELFEN_WAYLAND_PROTOCOLS REQUIRED wayland-protocols>=1.27)
+pkg_check_modules(KESTRELFEN_WAYLAND_PROTOCOLS REQUIRED wayland-protocols>=1.31)
 pkg_get_variable(WAYLAND_SCANNER wayland-scanner wayland_scanner)
 pkg_get_variable(WAYLAND_PROTOCOLS wayland-protocols pkgdatadir)
 

@@ -16,6 +16,9 @@ class EscapeKey {
 
     virtual ~EscapeKey() = default;
 
+    /// Whether a grab takes every other key as well, because the desktop knows nothing finer.
+    virtual bool takesAllKeys() const { return false; }
+
     /// From now on no other program gets Escape, and `pressed` is called on the main thread once for each
     /// press: not for the repetitions of a held key, nor for a key that was already down. Where the key
     /// cannot be had, nothing is ever called.

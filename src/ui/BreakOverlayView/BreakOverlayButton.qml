@@ -14,6 +14,7 @@ GlassButton {
 
     label: text
     enabled: offered
+    Accessible.role: offered ? Accessible.Button : Accessible.StaticText
     opacity: 1
     textColor: offered ? Glass.ink : Glass.faint
     fill: offered ? Glass.glass2 : "transparent"

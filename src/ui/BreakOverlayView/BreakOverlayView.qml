@@ -9,6 +9,10 @@ Item {
 
     required property BreakOverlayModel model
     readonly property int padding: 48
+    /// How far the breath of the halo reaches out of the column.
+    readonly property int haloReach: 72
+    /// Where things move; the rest is one still picture.
+    readonly property rect lively: Qt.rect(width / 2 - column.width * column.scale / 2 - haloReach, height / 2 - column.height * column.scale / 2 - haloReach, column.width * column.scale + 2 * haloReach, column.height * column.scale + 2 * haloReach)
 
     Accessible.role: Accessible.Pane
     Accessible.name: model.title
@@ -51,7 +55,7 @@ Item {
 
         Column {
             anchors.horizontalCenter: parent.horizontalCenter
-            width: 560
+            width: view.model.isLong ? 520 : 560
             spacing: 11
 
             Text {
@@ -75,7 +79,7 @@ Item {
                 Accessible.name: text
                 color: Glass.slate
                 font.pixelSize: 15
-                lineHeight: 1.35
+                lineHeight: lineCount > 1 ? 1.35 : 1
             }
         }
 

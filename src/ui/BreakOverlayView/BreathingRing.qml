@@ -20,7 +20,7 @@ Item {
         diameter: place.implicitWidth
         blur: place.isLong ? 40 : 30
         legSeconds: place.isLong ? 7 : 5
-        breathing: place.visible
+        breathing: place.visible && !Appearance.reducedMotion
     }
 
     CountdownRing {

@@ -4,7 +4,7 @@ import QtQuick
 import Kestrelfen
 
 /// The length of the cycle that a long break ends, as dots and in words.
-Rectangle {
+GlassSurface {
     id: indicator
 
     required property int dots
@@ -16,9 +16,6 @@ Rectangle {
     implicitWidth: row.implicitWidth + 32
     implicitHeight: row.implicitHeight + 18
     radius: 12
-    color: Glass.glass
-    border.width: 1
-    border.color: Glass.hairline
 
     Row {
         id: row
@@ -74,18 +71,27 @@ Rectangle {
             font.pixelSize: 12
         }
 
-        GlassButton {
+        Item {
             anchors.verticalCenter: parent.verticalCenter
             visible: indicator.skippable
-            label: "Skip"
-            textSize: 12
-            textColor: Glass.faint
-            fill: "transparent"
-            pressedFill: "transparent"
-            line: "transparent"
-            horizontalPadding: 4
-            verticalPadding: 0
-            onClicked: indicator.skipped()
+            width: skip.implicitWidth - skip.horizontalPadding
+            height: 1
+
+            // Its padding makes it easier to hit, and of it only the leading one counts.
+            GlassButton {
+                id: skip
+                anchors.left: parent.left
+                anchors.verticalCenter: parent.verticalCenter
+                label: "Skip"
+                textSize: 12
+                textColor: Glass.faint
+                fill: "transparent"
+                pressedFill: "transparent"
+                line: "transparent"
+                horizontalPadding: 4
+                verticalPadding: 8
+                onClicked: indicator.skipped()
+            }
         }
     }
 }

@@ -28,22 +28,25 @@ HudCard {
             width: parent.width
             height: 76
 
-            Rectangle {
+            Item {
                 id: counter
                 x: 18
                 y: 16
                 width: 42
                 height: 42
-                radius: 21
-                color: Glass.accentFill
 
-                Text {
+                PulsingDisc {
+                    anchors.fill: parent
+                    pulsing: !Appearance.reducedMotion
+                }
+
+                Label {
                     anchors.centerIn: parent
                     text: view.model.counter
                     color: Glass.overAccent
-                    font.family: Appearance.monospaced
-                    font.pixelSize: 15
-                    font.weight: Font.DemiBold
+                    monospaced: true
+                    size: 15
+                    weight: Font.DemiBold
                     Accessible.ignored: true
                 }
             }
@@ -54,21 +57,16 @@ HudCard {
                 anchors.verticalCenter: counter.verticalCenter
                 spacing: 3
 
-                Text {
+                Label {
                     text: view.model.title
-                    Accessible.role: Accessible.StaticText
-                    Accessible.name: text
-                    color: Glass.ink
-                    font.pixelSize: 15
-                    font.weight: Font.DemiBold
+                    size: 15
+                    weight: Font.DemiBold
                 }
 
-                Text {
+                Label {
                     text: view.model.caption
-                    Accessible.role: Accessible.StaticText
-                    Accessible.name: text
                     color: Glass.slate
-                    font.pixelSize: 12
+                    size: 12.5
                 }
             }
         }
@@ -93,15 +91,18 @@ HudCard {
             }
         }
 
-        Text {
-            anchors.horizontalCenter: parent.horizontalCenter
-            visible: text !== ""
-            text: view.model.hint
-            Accessible.role: Accessible.StaticText
-            Accessible.name: text
-            color: Glass.faint
-            font.pixelSize: 10
-            bottomPadding: 12
+        Item {
+            width: parent.width
+            height: hint.implicitHeight + 12
+            visible: hint.text !== ""
+
+            Label {
+                id: hint
+                anchors.horizontalCenter: parent.horizontalCenter
+                text: view.model.hint
+                color: Glass.faint
+                size: 10
+            }
         }
     }
 }

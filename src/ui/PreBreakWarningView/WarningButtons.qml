@@ -18,6 +18,8 @@ Item {
     readonly property int snoozesWidth: snoozeCount > 0 ? snoozeCount * (snoozeWidth + snoozeGap) - snoozeGap + gap : 0
     readonly property real wideWidth: (width - snoozesWidth - gap) / 2
 
+    property GlassButton hovered: null
+
     signal chosen(int key)
 
     implicitHeight: 33
@@ -40,7 +42,7 @@ Item {
             height: 33
             radius: 11
             label: text
-            textSize: 12
+            textSize: 12.5
             textWeight: isStart || !isWide ? Font.DemiBold : Font.Medium
             textFamily: isWide ? Appearance.sans : Appearance.monospaced
             textColor: isStart ? Glass.overAccent : Glass.ink
@@ -48,6 +50,18 @@ Item {
             pressedFill: isStart ? Glass.faded(Glass.accentFill, 0.85) : Glass.rule
             line: isStart ? "transparent" : Glass.hudBorder
             onClicked: row.chosen(button.key)
+            onIsHoveredChanged: {
+                if (isHovered && !isWide) {
+                    row.hovered = button;
+                } else if (row.hovered === button) {
+                    row.hovered = null;
+                }
+            }
         }
+    }
+
+    HoverTip {
+        target: row.hovered
+        text: row.hovered ? row.hovered.spokenLabel : ""
     }
 }
