@@ -36,7 +36,7 @@ class PanelTests(DesktopTest):
                 self.hands.click(icon.centre, button)
                 popover = self.wait_for_popover()
                 self.assertLess(abs(popover.centre[0] - icon.centre[0]), popover.width)
-                self.assertLess(popover.y + popover.height, icon.centre[1])
+                self.assertLessEqual(popover.y + popover.height, self.panel.window.y)
                 self.hands.click(icon.centre, button)
                 self.wait_for_no_popover()
 
@@ -106,7 +106,9 @@ class StatusNotifierTests(DesktopTest):
         self.assertEqual((properties["Id"], properties["Category"], properties["Status"], properties["Title"]),
                          ("kestrelfen", "ApplicationStatus", "Active", "Kestrelfen"))
         self.assertEqual([picture[:2] for picture in properties["IconPixmap"]],
-                         [[16, 16], [22, 22], [24, 24], [48, 48]])
+                         [[size, size] for size in (16, 18, 20, 22, 24, 32, 44, 48, 64)])
+        self.assertRegex(properties["XAyatanaLabel"], r"^(10:00|09:\d\d)$")
+        self.assertEqual(len(properties["XAyatanaLabelGuide"]), len(properties["XAyatanaLabel"]))
         self.assertEqual(program.count("tray"), 0)
 
     def test_activate_and_context_menu_open_and_close_the_popover(self):
@@ -135,6 +137,14 @@ class StatusNotifierTests(DesktopTest):
         counted = list(dict.fromkeys(text for text in told if text.startswith("Next")))
         self.assertEqual(counted[-4:], [f"Next break in 00:0{left}" for left in (4, 3, 2, 1)])
         self.assertIn(told[-1], ("Break ends in 01:00", "Break ends in 00:59"))
+
+    def test_label_counts_down_by_the_second(self):
+        self.start_registered(QUICK | {"workIntervalSeconds": 6.0, "breakDurationSeconds": 60.0})
+        told = []
+        until(lambda: told.append(self.ask(do="property", name="XAyatanaLabel")) or told[-1] in ("01:00", "00:59"),
+              "the break")
+        counted = [text for text in dict.fromkeys(told) if text.startswith("00:0")]
+        self.assertEqual(counted[-4:], [f"00:0{left}" for left in (4, 3, 2, 1)])
 
     def test_picture_tells_the_state(self):
         program = self.start_registered(QUICK | {"workIntervalSeconds": 4.0, "preBreakWarningLeadSeconds": 2.0,

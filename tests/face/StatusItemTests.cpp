@@ -9,11 +9,13 @@ class FakeTrayIcon final : public TrayIcon {
   public:
     void show(TrayContent content) override { contents.push_back(std::move(content)); }
     void tooltipChanged() override { ++tooltipChanges; }
+    void labelChanged() override { ++labelChanges; }
     bool isShown() const override { return true; }
     void click() const { activate(TrayPoint{3, 4}); }
 
     std::vector<TrayContent> contents;
     int tooltipChanges = 0;
+    int labelChanges = 0;
 };
 
 class StatusItemTest : public FaceTest {
@@ -57,6 +59,27 @@ TEST_F(StatusItemTest, theTrayIsToldOfTheTooltipOnceAMinute) {
     const int before = tray_.tooltipChanges;
     run(600);
     EXPECT_EQ(tray_.tooltipChanges - before, 10);
+}
+
+TEST_F(StatusItemTest, theLabelCountsDownByTheSecondInItsWidth) {
+    run(65);
+    EXPECT_EQ(tray_.contents.back().label(), "18:55");
+    EXPECT_EQ(tray_.contents.back().labelGuide.size(), tray_.contents.back().label().size());
+    const int before = tray_.labelChanges;
+    run(10);
+    EXPECT_EQ(tray_.labelChanges - before, 10);
+    delegate_.engine().pause(PauseReason::manual);
+    settle();
+    run(10);
+    EXPECT_LE(tray_.labelChanges - before, 11) << "a time that stands still is not told";
+}
+
+TEST_F(StatusItemTest, thereAreOtherPicturesForPanelsThatAreKnown) {
+    const TrayContent& content = tray_.contents.back();
+    EXPECT_EQ(content.onLight.size(), content.pictures.size());
+    EXPECT_EQ(content.onDark.size(), content.pictures.size());
+    EXPECT_NE(content.onLight, content.onDark);
+    EXPECT_NE(content.onLight, content.pictures);
 }
 
 TEST_F(StatusItemTest, aClickIsHandedOnWithItsPlace) {

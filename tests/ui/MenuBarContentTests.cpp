@@ -9,7 +9,10 @@ using Buttons = std::array<Button, 3>;
 
 class MenuBarContentTest : public ContentTest {
   protected:
-    MenuBarContent content() { return MenuBarContent::of(engine()); }
+    MenuBarContent content() { return MenuBarContent::of(engine(), activeSeconds_, activeTask_); }
+
+    double activeSeconds_ = 0;
+    std::optional<TaskSummary> activeTask_;
 };
 
 TEST_F(MenuBarContentTest, Idle) {
@@ -141,6 +144,75 @@ TEST_F(MenuBarContentTest, ThirdButtonIsNeverDisabled) {
     prefer("enforcementLevel", std::string("hardcore"));
     beginBreak();
     EXPECT_EQ(content().buttons[2], (Button{"End Break", true}));
+}
+
+TEST_F(MenuBarContentTest, DayWithoutABreakHasAnEmptyBar) {
+    const auto shown = content();
+    EXPECT_EQ(shown.breaks, "0 / 0");
+    EXPECT_EQ(shown.completionRate, 0.0);
+    EXPECT_EQ(shown.screenTime, "0 s");
+    EXPECT_EQ(shown.skipped, 0);
+}
+
+TEST_F(MenuBarContentTest, DayCountsWhatWasKeptAndWhatWasDue) {
+    start();
+    for (int kept = 0; kept < 6; ++kept) {
+        engine().beginBreak(now());
+        engine().completeBreak(now());
+    }
+    engine().beginBreak(now());
+    wait(5);
+    engine().skipCurrentBreak();
+    activeSeconds_ = 2 * 3600 + 34 * 60 + 59;
+    const auto shown = content();
+    EXPECT_EQ(shown.breaks, "6 / 7");
+    EXPECT_DOUBLE_EQ(shown.completionRate, 6.0 / 7.0);
+    EXPECT_EQ(shown.screenTime, "2 h 34 m");
+    EXPECT_EQ(shown.skipped, 1);
+}
+
+TEST_F(MenuBarContentTest, DayOfSkippedBreaksAlone) {
+    beginBreak();
+    wait(5);
+    engine().skipCurrentBreak();
+    EXPECT_EQ(content().breaks, "0 / 1");
+    EXPECT_EQ(content().completionRate, 0.0);
+    EXPECT_EQ(content().skipped, 1);
+}
+
+TEST_F(MenuBarContentTest, DayOfKeptBreaksAloneFillsTheBar) {
+    beginBreak();
+    wait(20);
+    EXPECT_EQ(content().breaks, "1 / 1");
+    EXPECT_EQ(content().completionRate, 1.0);
+}
+
+TEST_F(MenuBarContentTest, WithoutAnActiveTaskThereIsNoRow) {
+    EXPECT_EQ(content().activeTask, std::nullopt);
+}
+
+TEST_F(MenuBarContentTest, ActiveTaskTellsItsTitleAndItsCredits) {
+    activeTask_ = TaskSummary{.title = "Draft the notes",
+                              .notes = {},
+                              .createdAt = now(),
+                              .completedAt = {},
+                              .dueOn = {},
+                              .estimatedBreaks = 9,
+                              .completedBreaks = 3};
+    const auto row = content().activeTask.value();
+    EXPECT_EQ(row.title, "Draft the notes");
+    EXPECT_EQ(row.credits, 3);
+    EXPECT_EQ(row.creditsText, "×3");
+    activeTask_->completedBreaks = 0;
+    EXPECT_EQ(content().activeTask.value().creditsText, "×0");
+}
+
+TEST_F(MenuBarContentTest, FixedTexts) {
+    EXPECT_EQ(MenuBarContent::todayEyebrow, "Today");
+    EXPECT_EQ(MenuBarContent::breaksTitle, "Breaks completed");
+    EXPECT_EQ(MenuBarContent::screenTimeTitle, "Screen time");
+    EXPECT_EQ(MenuBarContent::skippedTitle, "Skipped");
+    EXPECT_EQ(MenuBarContent::activeTaskCaption, "Active task · credited each interval");
 }
 
 } // namespace

@@ -48,6 +48,7 @@ void StatusNotifierItem::show(TrayContent content) {
         emitSignal("NewTitle");
     }
     tooltipChanged();
+    labelChanged();
 }
 
 void StatusNotifierItem::start() {
@@ -62,9 +63,17 @@ void StatusNotifierItem::tooltipChanged() {
     emitSignal("NewToolTip");
 }
 
-void StatusNotifierItem::emitSignal(const char* name) {
+void StatusNotifierItem::labelChanged() {
+    const StatusNotifierProperties properties(content_);
+    emitSignal("XAyatanaNewLabel",
+               {properties.value("XAyatanaLabel"), properties.value("XAyatanaLabelGuide")});
+}
+
+void StatusNotifierItem::emitSignal(const char* name, const QVariantList& arguments) {
     if (isShown()) {
-        bus_.send(QDBusMessage::createSignal(itemPath, itemInterface, name));
+        QDBusMessage signal = QDBusMessage::createSignal(itemPath, itemInterface, name);
+        signal.setArguments(arguments);
+        bus_.send(signal);
     }
 }
 

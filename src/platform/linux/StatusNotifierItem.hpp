@@ -16,6 +16,7 @@ class StatusNotifierItem final : public QDBusVirtualObject, public TrayIcon {
 
     void show(TrayContent content) override;
     void tooltipChanged() override;
+    void labelChanged() override;
     bool isShown() const override { return registration_.isAccepted(); }
 
     QString introspect(const QString& path) const override;
@@ -23,7 +24,7 @@ class StatusNotifierItem final : public QDBusVirtualObject, public TrayIcon {
 
   private:
     void start();
-    void emitSignal(const char* name);
+    void emitSignal(const char* name, const QVariantList& arguments = {});
     bool handleProperties(const QDBusMessage& message);
     bool handleClick(const QDBusMessage& message);
 

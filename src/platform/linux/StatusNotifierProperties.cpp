@@ -40,6 +40,8 @@ constexpr char introspectionXml[] = R"xml(<interface name="org.kde.StatusNotifie
 <property name="AttentionIconName" type="s" access="read"/>
 <property name="ToolTip" type="(sa(iiay)ss)" access="read"/>
 <property name="ItemIsMenu" type="b" access="read"/>
+<property name="XAyatanaLabel" type="s" access="read"/>
+<property name="XAyatanaLabelGuide" type="s" access="read"/>
 <method name="Activate">
 <arg name="x" type="i" direction="in"/><arg name="y" type="i" direction="in"/>
 </method>
@@ -56,6 +58,7 @@ constexpr char introspectionXml[] = R"xml(<interface name="org.kde.StatusNotifie
 <signal name="NewIcon"/>
 <signal name="NewToolTip"/>
 <signal name="NewStatus"><arg name="status" type="s"/></signal>
+<signal name="XAyatanaNewLabel"><arg name="label" type="s"/><arg name="guide" type="s"/></signal>
 </interface>)xml";
 
 QDBusArgument& operator<<(QDBusArgument& argument, const Pixmap& pixmap) {
@@ -134,7 +137,7 @@ StatusNotifierProperties::StatusNotifierProperties(const TrayContent& content) :
 
 QVariantMap StatusNotifierProperties::all() const {
     QVariantMap properties = constants();
-    for (const char* const name : {"Title", "IconPixmap", "ToolTip"}) {
+    for (const char* const name : {"Title", "IconPixmap", "ToolTip", "XAyatanaLabel", "XAyatanaLabelGuide"}) {
         properties.insert(name, value(name));
     }
     return properties;
@@ -146,6 +149,12 @@ QVariant StatusNotifierProperties::value(const QString& name) const {
     }
     if (name == "IconPixmap") {
         return pixmapsOf(content_.pictures);
+    }
+    if (name == "XAyatanaLabel") {
+        return QString::fromStdString(content_.label ? content_.label() : std::string());
+    }
+    if (name == "XAyatanaLabelGuide") {
+        return QString::fromStdString(content_.labelGuide);
     }
     return name == "ToolTip" ? toolTip() : constants().value(name);
 }

@@ -41,6 +41,10 @@ void TrayIconChooser::tooltipChanged() {
     (fallback_ ? fallback_ : preferred_)->tooltipChanged();
 }
 
+void TrayIconChooser::labelChanged() {
+    (fallback_ ? fallback_ : preferred_)->labelChanged();
+}
+
 bool TrayIconChooser::isShown() const {
     return preferred_->isShown() || (fallback_ && fallback_->isShown());
 }

@@ -22,6 +22,7 @@ class TrayIconChooser final : public TrayIcon {
 
     void show(TrayContent content) override;
     void tooltipChanged() override;
+    void labelChanged() override;
     bool isShown() const override;
 
   private:

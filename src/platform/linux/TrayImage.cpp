@@ -28,6 +28,9 @@ QImage imageOf(const TrayPicture& picture) {
         .convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }
 
+/// On a grey of this value black and white lines stand out alike.
+constexpr int evenGrey = 118;
+
 } // namespace
 
 QImage trayImage(const std::vector<TrayPicture>& pictures, QSize size) {
@@ -41,6 +44,19 @@ QImage trayImage(const std::vector<TrayPicture>& pictures, QSize size) {
         painter.drawImage((size.width() - side) / 2, (size.height() - side) / 2, scaled);
     }
     return image;
+}
+
+const std::vector<TrayPicture>& picturesFor(const TrayContent& content, std::optional<bool> isPanelDark) {
+    if (!isPanelDark) {
+        return content.pictures;
+    }
+    const auto& suited = *isPanelDark ? content.onDark : content.onLight;
+    return suited.empty() ? content.pictures : suited;
+}
+
+bool isDarkPanel(const QImage& panel) {
+    const QImage whole = panel.scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    return qGray(whole.pixel(0, 0)) < evenGrey;
 }
 
 } // namespace kestrelfen

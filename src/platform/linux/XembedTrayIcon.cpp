@@ -33,7 +33,7 @@ void XembedTrayIcon::show(TrayContent content) {
     if (!std::exchange(isStarted_, true)) {
         start();
     } else if (isEmbedded_) {
-        window_->draw(content_.pictures);
+        window_->draw(content_);
         tooltipChanged();
     }
 }
@@ -124,7 +124,7 @@ void XembedTrayIcon::handleResize(const xcb_configure_notify_event_t& event) {
     const QSize size(event.width, event.height);
     if (isOurs(event.window) && window_->size() != size) {
         window_->setSize(size);
-        window_->draw(content_.pictures);
+        window_->draw(content_);
     }
 }
 
@@ -139,7 +139,7 @@ void XembedTrayIcon::handleExpose(const xcb_expose_event_t& event) {
         return;
     }
     if (isOurs(event.window)) {
-        window_->draw(content_.pictures);
+        window_->draw(content_);
     } else if (tooltip_.isVisible()) {
         showTooltip();
     }

@@ -15,6 +15,9 @@ namespace {
 /// Until the tray gives another.
 constexpr QSize initialSize(24, 24);
 
+/// Red, green and blue of 16 bits each.
+constexpr int textColorLength = 3;
+
 constexpr std::uint32_t requestDock = 0;
 constexpr std::uint32_t xembedVersion = 0;
 constexpr std::uint32_t xembedMapped = 1;
@@ -42,6 +45,7 @@ XembedWindow::XembedWindow(XConnection& connection, xcb_window_t tray)
     : connection_(connection), window_(xcb_generate_id(connection.raw())),
       visual_(connection.screen().root_visual), depth_(connection.screen().root_depth), size_(initialSize) {
     findVisual(tray);
+    findColors(tray);
     create();
     describe();
     askToDock(tray);
@@ -68,6 +72,19 @@ void XembedWindow::findVisual(xcb_window_t tray) {
     if (const std::uint8_t depth = depthOf(connection_.screen(), visual); depth != 0) {
         visual_ = visual;
         depth_ = depth;
+    }
+}
+
+/// The tray may tell the colour of the texts on its panel.
+void XembedWindow::findColors(xcb_window_t tray) {
+    const auto cookie =
+        xcb_get_property(connection_.raw(), 0, tray, connection_.atom("_NET_SYSTEM_TRAY_COLORS"),
+                         XCB_ATOM_CARDINAL, 0, textColorLength);
+    const XPointer<xcb_get_property_reply_t> reply(
+        xcb_get_property_reply(connection_.raw(), cookie, nullptr));
+    if (reply && xcb_get_property_value_length(reply.get()) == textColorLength * int{sizeof(std::uint32_t)}) {
+        const auto* const text = static_cast<const std::uint32_t*>(xcb_get_property_value(reply.get()));
+        isPanelDark_ = text[0] + text[1] + text[2] > textColorLength * 0x8000U;
     }
 }
 
@@ -110,15 +127,15 @@ void XembedWindow::askToDock(xcb_window_t tray) {
                    reinterpret_cast<const char*>(&message));
 }
 
-void XembedWindow::draw(const std::vector<TrayPicture>& pictures) {
+void XembedWindow::draw(const TrayContent& content) {
     xcb_clear_area(connection_.raw(), 0, window_, 0, 0, 0, 0);
-    QImage image = trayImage(pictures, size_);
-    if (!hasAlpha()) {
+    if (hasAlpha()) {
+        putImage(connection_, window_, depth_, trayImage(picturesFor(content, isPanelDark_), size_));
+    } else {
         QImage panel = getImage(connection_, window_, size_);
-        QPainter(&panel).drawImage(0, 0, image);
-        image = panel;
+        QPainter(&panel).drawImage(0, 0, trayImage(picturesFor(content, isDarkPanel(panel)), size_));
+        putImage(connection_, window_, depth_, panel);
     }
-    putImage(connection_, window_, depth_, image);
     connection_.flush();
 }
 

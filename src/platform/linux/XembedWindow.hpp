@@ -5,7 +5,7 @@
 
 #include <QSize>
 
-#include <vector>
+#include <optional>
 
 namespace kestrelfen {
 
@@ -23,10 +23,11 @@ class XembedWindow {
     QSize size() const { return size_; }
     void setSize(QSize size) { size_ = size; }
 
-    void draw(const std::vector<TrayPicture>& pictures);
+    void draw(const TrayContent& content);
 
   private:
     void findVisual(xcb_window_t tray);
+    void findColors(xcb_window_t tray);
     void create();
     void describe();
     void askToDock(xcb_window_t tray);
@@ -37,6 +38,8 @@ class XembedWindow {
     xcb_visualid_t visual_;
     std::uint8_t depth_;
     xcb_colormap_t colormap_ = XCB_NONE;
+    /// As far as the tray tells.
+    std::optional<bool> isPanelDark_;
     QSize size_;
 };
 

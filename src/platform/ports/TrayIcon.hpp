@@ -21,11 +21,19 @@ struct TrayPicture {
 };
 
 struct TrayContent {
-    /// The same picture in several sizes, in any order; a tray takes the one that fits best.
+    /// The same picture in several sizes, in any order; a tray takes the one that fits best. Legible on
+    /// every panel.
     std::vector<TrayPicture> pictures;
     std::string title;
     /// Asked whenever the desktop reads the text, so that it is exact without being pushed.
     std::function<std::string()> tooltip;
+    /// The pictures for a panel that is known to be light, or dark; empty where there is nothing better.
+    std::vector<TrayPicture> onLight = {};
+    std::vector<TrayPicture> onDark = {};
+    /// Shown beside the icon by a desktop that shows such labels; asked for like the tooltip.
+    std::function<std::string()> label = {};
+    /// A label that is as wide as any, so that the item keeps its width.
+    std::string labelGuide = {};
 };
 
 /// A place on the screen in its physical pixels, from the desktop's top left.
@@ -50,6 +58,9 @@ class TrayIcon {
     /// Tells the desktop that a text read earlier is out of date. How often is the caller's choice: each
     /// call may wake the tray.
     virtual void tooltipChanged() = 0;
+
+    /// The same for the label, which does nothing where labels are not shown.
+    virtual void labelChanged() {}
 
     /// Whether some tray has taken the icon. A read of memory.
     virtual bool isShown() const = 0;

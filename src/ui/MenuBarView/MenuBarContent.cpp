@@ -2,34 +2,11 @@
 
 #include "core/BreakEngine.hpp"
 #include "core/Formatters.hpp"
+#include "ui/MenuBarView/PausedCaption.hpp"
 
 namespace kestrelfen {
 
 namespace {
-
-std::string pausedCaption(PauseReason reason) {
-    switch (reason) {
-    case PauseReason::manual:
-        return "Paused by you. Resume when ready.";
-    case PauseReason::systemSleep:
-        return "The Mac slept. Resumes on wake.";
-    case PauseReason::screenLocked:
-        return "Screen locked. Resumes on unlock.";
-    case PauseReason::displaySleep:
-        return "Display asleep. Resumes on wake.";
-    case PauseReason::userIdle:
-        return "You stepped away. Resumes on input.";
-    case PauseReason::meeting:
-        return "You're on a call. Resumes when it ends.";
-    case PauseReason::videoPlayback:
-        return "Something is playing. Resumes when it stops.";
-    case PauseReason::screenSharing:
-        return "Capturing the screen. Resumes when you stop.";
-    case PauseReason::focusApp:
-        return "Deep focus app in front. Resumes when you leave.";
-    }
-    return {};
-}
 
 void fillHeader(MenuBarContent& content, const BreakEngine& engine) {
     const auto& config = engine.config();
@@ -75,9 +52,23 @@ std::array<MenuBarContent::Button, 3> buttonsOf(const BreakEngine& engine) {
              {engine.state().is(BreakState::Case::onBreak) ? "End Break" : "Break Now", true}}};
 }
 
+void fillToday(MenuBarContent& content, const BreakEngine& engine, double activeSeconds) {
+    const std::int64_t completed = engine.breaksCompletedToday();
+    const std::int64_t due = completed + engine.breaksSkippedToday();
+    content.breaks = std::to_string(completed) + " / " + std::to_string(due);
+    content.completionRate = due < 1 ? 0.0 : static_cast<double>(completed) / static_cast<double>(due);
+    content.screenTime = Formatters::activeTime(activeSeconds);
+    content.skipped = engine.breaksSkippedToday();
+}
+
+MenuBarContent::ActiveTaskRow rowOf(const TaskSummary& task) {
+    return {task.title, task.completedBreaks, "×" + std::to_string(task.completedBreaks)};
+}
+
 } // namespace
 
-MenuBarContent MenuBarContent::of(const BreakEngine& engine) {
+MenuBarContent MenuBarContent::of(const BreakEngine& engine, double activeSeconds,
+                                  const std::optional<TaskSummary>& activeTask) {
     const double left =
         engine.state().is(BreakState::Case::onBreak) ? engine.breakRemaining() : engine.timeUntilNextBreak();
     const double total = engine.currentPhaseTotal();
@@ -87,6 +78,10 @@ MenuBarContent MenuBarContent::of(const BreakEngine& engine) {
     content.ringRemaining = total > 0 ? left / total : 0.0;
     content.ringLabel = Formatters::countdown(left);
     content.buttons = buttonsOf(engine);
+    fillToday(content, engine, activeSeconds);
+    if (activeTask) {
+        content.activeTask = rowOf(*activeTask);
+    }
     return content;
 }
 

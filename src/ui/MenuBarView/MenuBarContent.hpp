@@ -1,13 +1,18 @@
 #pragma once
 
+#include "store/TaskSummary.hpp"
+
 #include <array>
+#include <cstdint>
+#include <optional>
 #include <string>
+#include <string_view>
 
 namespace kestrelfen {
 
 class BreakEngine;
 
-/// Every text, number and flag of the popover's upper part at one moment.
+/// Every text, number and flag of the popover at one moment.
 struct MenuBarContent {
     struct Button {
         std::string label;
@@ -26,7 +31,31 @@ struct MenuBarContent {
     /// Pause or resume, snooze or skip, break.
     std::array<Button, 3> buttons;
 
-    static MenuBarContent of(const BreakEngine& engine);
+    static constexpr std::string_view todayEyebrow = "Today";
+    static constexpr std::string_view breaksTitle = "Breaks completed";
+    static constexpr std::string_view screenTimeTitle = "Screen time";
+    static constexpr std::string_view skippedTitle = "Skipped";
+    /// Completed breaks of all that were due.
+    std::string breaks;
+    /// The same as a share; 0 while none was due.
+    double completionRate = 0;
+    std::string screenTime;
+    std::int64_t skipped = 0;
+
+    struct ActiveTaskRow {
+        std::string title;
+        std::int64_t credits = 0;
+        std::string creditsText;
+
+        friend bool operator==(const ActiveTaskRow&, const ActiveTaskRow&) = default;
+    };
+
+    static constexpr std::string_view activeTaskCaption = "Active task · credited each interval";
+    std::optional<ActiveTaskRow> activeTask;
+
+    /// `activeSeconds` are those of the day.
+    static MenuBarContent of(const BreakEngine& engine, double activeSeconds,
+                             const std::optional<TaskSummary>& activeTask);
 
     friend bool operator==(const MenuBarContent&, const MenuBarContent&) = default;
 };

@@ -1,76 +1,85 @@
 import QtQuick
 import Kestrelfen
 
-/// The words beside the popover's ring.
-Column {
+/// Where the cycle stands: the ring, and the words beside it.
+Item {
     id: header
 
     required property MenuBarModel model
 
-    Text {
-        text: header.model.eyebrow.toUpperCase()
-        Accessible.role: Accessible.StaticText
-        Accessible.name: text
-        color: Glass.faint
-        font.family: Appearance.monospaced
-        font.pixelSize: 10
-        font.weight: Font.Medium
-        font.letterSpacing: 1.2
+    implicitHeight: words.height + 22 + 18
+
+    CountdownRing {
+        id: ring
+        anchors.left: parent.left
+        anchors.leftMargin: 20
+        anchors.verticalCenter: words.verticalCenter
+        remaining: header.model.ringRemaining
+        label: header.model.ringLabel
+        diameter: 88
+        lineWidth: 6
+        labelSize: 19
     }
 
-    Text {
-        topPadding: 5
-        text: header.model.value
-        Accessible.role: Accessible.StaticText
-        Accessible.name: text
-        color: Glass.ink
-        font.pixelSize: 16
-        font.weight: Font.DemiBold
-    }
+    Column {
+        id: words
+        anchors.left: ring.right
+        anchors.leftMargin: 18
+        anchors.right: parent.right
+        anchors.rightMargin: 20
+        y: 22
 
-    Text {
-        width: parent.width
-        height: 38
-        topPadding: 4
-        wrapMode: Text.WordWrap
-        text: header.model.caption
-        Accessible.role: Accessible.StaticText
-        Accessible.name: text
-        color: Glass.slate
-        font.pixelSize: 12
-    }
+        Eyebrow {
+            anchors.left: parent.left
+            text: header.model.eyebrow
+        }
 
-    Item {
-        width: 1
-        height: 9
-    }
+        Item {
+            width: 1
+            height: 5
+        }
 
-    Rectangle {
-        implicitWidth: chip.implicitWidth + 18
-        implicitHeight: chip.implicitHeight + 8
-        radius: height / 2
-        color: Glass.sunk
+        Label {
+            anchors.left: parent.left
+            width: Math.min(implicitWidth, parent.width)
+            text: header.model.value
+            size: 16
+            weight: Font.DemiBold
+            tracking: -0.2
+            elide: Text.ElideRight
+        }
 
-        Row {
-            id: chip
-            anchors.centerIn: parent
-            spacing: 6
+        Item {
+            width: parent.width
+            height: 4 + twoLines.implicitHeight
 
-            Rectangle {
-                anchors.verticalCenter: parent.verticalCenter
-                width: 6
-                height: 6
-                radius: 3
-                color: Glass.accent
+            Label {
+                id: twoLines
+                visible: false
+                size: 12.5
+                text: "\n"
             }
 
-            Text {
-                text: header.model.cycleText
-                Accessible.role: Accessible.StaticText
-                Accessible.name: text
+            Label {
+                y: 4
+                width: parent.width
+                text: header.model.caption
+                size: 12.5
                 color: Glass.slate
-                font.pixelSize: 11
+                wrapMode: Text.WordWrap
+                maximumLineCount: 2
+                elide: Text.ElideRight
             }
+        }
+
+        Item {
+            width: 1
+            height: 9
+        }
+
+        CycleChip {
+            anchors.left: parent.left
+            text: header.model.cycleText
         }
     }
 }

@@ -3,18 +3,35 @@
 #include "platform/ports/Platform.hpp"
 #include "ui/ControlListModel.hpp"
 #include "ui/EngineFollower.hpp"
+#include "ui/MenuBarView/ActiveTask.hpp"
 #include "ui/MenuBarView/MenuBarActions.hpp"
 #include "ui/MenuBarView/MenuBarContent.hpp"
+#include "ui/MenuBarView/MenuBarFooter.hpp"
 
 #include <QObject>
 #include <QString>
+#include <QVariantList>
 #include <QtQml/qqmlregistration.h>
 
 #include <functional>
 
 namespace kestrelfen {
 
-/// Publishes the content of the popover and forwards its clicks. Main thread only.
+class ScreenTimeTracker;
+
+/// What the popover shows and acts upon; all of it outlives the popover.
+struct MenuBarSources {
+    BreakEngine& engine;
+    ScreenTimeTracker& screenTime;
+    /// Null when history is unavailable.
+    KestrelfenStore* store;
+    Navigation& navigation;
+    SceneWindows& windows;
+    /// Asks the program to end.
+    std::function<void()> quit;
+};
+
+/// Publishes the content of the popover while it is shown and forwards its clicks. Main thread only.
 class MenuBarModel : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -27,33 +44,70 @@ class MenuBarModel : public QObject {
     Q_PROPERTY(QString ringLabel READ ringLabel NOTIFY contentChanged)
     Q_PROPERTY(kestrelfen::ControlListModel* controls READ controls CONSTANT)
     Q_PROPERTY(int prominentKey READ prominentKey CONSTANT)
+    Q_PROPERTY(QString todayEyebrow READ todayEyebrow CONSTANT)
+    Q_PROPERTY(QString breaksTitle READ breaksTitle CONSTANT)
+    Q_PROPERTY(QString breaks READ breaks NOTIFY contentChanged)
+    Q_PROPERTY(double completionRate READ completionRate NOTIFY contentChanged)
+    Q_PROPERTY(QString screenTimeTitle READ screenTimeTitle CONSTANT)
+    Q_PROPERTY(QString screenTime READ screenTime NOTIFY contentChanged)
+    Q_PROPERTY(QString skippedTitle READ skippedTitle CONSTANT)
+    Q_PROPERTY(QString skipped READ skipped NOTIFY contentChanged)
+    Q_PROPERTY(bool hasActiveTask READ hasActiveTask NOTIFY contentChanged)
+    Q_PROPERTY(QString activeTaskTitle READ activeTaskTitle NOTIFY contentChanged)
+    Q_PROPERTY(QString activeTaskCaption READ activeTaskCaption CONSTANT)
+    Q_PROPERTY(QString activeTaskCredits READ activeTaskCredits NOTIFY contentChanged)
+    Q_PROPERTY(QVariantList destinations READ destinations CONSTANT)
+    Q_PROPERTY(QVariantMap quitItem READ quitItem CONSTANT)
 
   public:
-    /// `quit` asks the program to end.
-    MenuBarModel(BreakEngine& engine, const Platform& platform, std::function<void()> quit);
+    /// `activeTask` is loaded by its owner, and outlives the model too.
+    MenuBarModel(const MenuBarSources& sources, const Platform& platform, ActiveTask& activeTask);
 
     QString eyebrow() const { return QString::fromStdString(content_.eyebrow); }
     QString value() const { return QString::fromStdString(content_.value); }
-    QString caption() const { return QString::fromStdString(content_.caption); }
+    QString caption() const;
     QString cycleText() const { return QString::fromStdString(content_.cycleText); }
     double ringRemaining() const { return content_.ringRemaining; }
     QString ringLabel() const { return QString::fromStdString(content_.ringLabel); }
     ControlListModel* controls() { return &controls_; }
     int prominentKey() const;
 
+    QString todayEyebrow() const;
+    QString breaksTitle() const;
+    QString breaks() const { return QString::fromStdString(content_.breaks); }
+    double completionRate() const { return content_.completionRate; }
+    QString screenTimeTitle() const;
+    QString screenTime() const { return QString::fromStdString(content_.screenTime); }
+    QString skippedTitle() const;
+    QString skipped() const { return QString::number(content_.skipped); }
+
+    bool hasActiveTask() const { return content_.activeTask.has_value(); }
+    QString activeTaskTitle() const;
+    QString activeTaskCaption() const;
+    QString activeTaskCredits() const;
+
+    /// Each has a `key`, a `title` and a `symbol`.
+    QVariantList destinations() const;
+    QVariantMap quitItem() const;
+
     /// A click on the button with that key.
     Q_INVOKABLE void press(int key);
-    Q_INVOKABLE void quit() { quit_(); }
+    /// A click on the footer's item with that key.
+    Q_INVOKABLE void go(int key);
 
   signals:
     void contentChanged();
+    /// An item of the footer has led elsewhere.
+    void left();
 
   private:
     void refresh();
+    void showButtons();
 
-    BreakEngine& engine_;
+    const MenuBarSources sources_;
+    ActiveTask& activeTask_;
     MenuBarActions actions_;
-    std::function<void()> quit_;
+    MenuBarFooter footer_;
     MenuBarContent content_;
     ControlListModel controls_;
     EngineFollower follower_;

@@ -1,108 +1,92 @@
-pragma ComponentBehavior: Bound
-
 import QtQuick
 import Kestrelfen
 
-/// The popover: where the cycle stands, and what can be done now.
-HudCard {
+/// The popover: where the cycle stands, what can be done now, the day's numbers and the ways into the windows. It
+/// fills a window of its own, with room for its shadow where the desktop can blend; without, the window is cut to it.
+Item {
     id: view
 
     required property MenuBarModel model
+    required property bool blended
+    readonly property int radius: 14
+    /// Without blending nothing may shine through.
+    readonly property color solidFill: Glass.wallpaper2
+    readonly property int sideRoom: blended ? 32 : 0
+    readonly property int topRoom: blended ? 18 : 0
+    readonly property int bottomRoom: blended ? 46 : 0
+    readonly property var application: Qt.application
 
     signal dismissed
 
-    radius: 14
+    function moveFocus(forward: bool): void {
+        const from = view.Window.activeFocusItem;
+        const next = from ? from.nextItemInFocusChain(forward) : null;
+        if (next) {
+            next.forceActiveFocus(forward ? Qt.TabFocusReason : Qt.BacktabFocusReason);
+        }
+    }
+
+    implicitWidth: sheet.width + 2 * sideRoom
+    implicitHeight: sheet.height + topRoom + bottomRoom
     focus: true
+
+    LayoutMirroring.enabled: application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.childrenInherit: true
+
     Keys.onEscapePressed: view.dismissed()
+    Keys.onLeftPressed: view.moveFocus(view.LayoutMirroring.enabled)
+    Keys.onRightPressed: view.moveFocus(!view.LayoutMirroring.enabled)
+    Keys.onUpPressed: view.moveFocus(false)
+    Keys.onDownPressed: view.moveFocus(true)
 
     Accessible.role: Accessible.Dialog
     Accessible.name: "Kestrelfen"
 
-    Column {
-        id: column
+    CardShadow {
+        anchors.fill: parent
+        visible: view.blended
+        card: Qt.rect(sheet.x, sheet.y, sheet.width, sheet.height)
+        radius: view.radius
+        blur: 34
+        drop: 14
+        strength: Glass.dark ? 0.45 : 0.22
+    }
+
+    /// Around the card is outside of it.
+    MouseArea {
+        anchors.fill: parent
+        onPressed: view.dismissed()
+    }
+
+    PopoverGround {
+        id: sheet
+        x: view.sideRoom
+        y: view.topRoom
         width: 352
-        topPadding: 22
-        spacing: 18
+        height: column.height
+        radius: view.radius
+        first: Glass.wallpaper2
+        second: Glass.wallpaper1
+        third: Glass.wallpaper4
+        blur: Glass.blur
+        veil: Glass.glass
 
-        Row {
-            x: 20
-            spacing: 18
-
-            CountdownRing {
-                anchors.verticalCenter: parent.verticalCenter
-                remaining: view.model.ringRemaining
-                label: view.model.ringLabel
-                diameter: 88
-                lineWidth: 6
-                labelSize: 19
-            }
-
-            MenuBarHeader {
-                width: 206
-                model: view.model
-            }
+        MouseArea {
+            anchors.fill: parent
         }
 
-        Row {
-            x: 20
-            spacing: 8
-
-            Repeater {
-                model: view.model.controls
-                delegate: GlassButton {
-                    id: button
-
-                    required property int key
-                    required property string text
-                    required property bool offered
-                    required spokenLabel
-                    readonly property bool isProminent: key === view.model.prominentKey
-
-                    width: 98.66
-                    radius: 11
-                    label: text
-                    enabled: offered
-                    textSize: 12
-                    textWeight: isProminent ? Font.DemiBold : Font.Normal
-                    textColor: isProminent ? Glass.overAccent : Glass.ink
-                    fill: isProminent ? Glass.accentFill : Glass.glass2
-                    pressedFill: isProminent ? Glass.faded(Glass.accentFill, 0.85) : Glass.glass
-                    line: isProminent ? "transparent" : Glass.hudBorder
-                    onClicked: view.model.press(button.key)
-                }
-            }
-        }
-
-        Column {
+        MenuBarColumn {
+            id: column
             width: parent.width
+            model: view.model
+        }
 
-            Rectangle {
-                width: parent.width
-                height: 1
-                color: Glass.rule
-            }
-
-            Item {
-                width: parent.width
-                height: 42
-
-                GlassButton {
-                    anchors.right: parent.right
-                    anchors.rightMargin: 12
-                    anchors.verticalCenter: parent.verticalCenter
-                    label: "Quit"
-                    spokenLabel: "Quit Kestrelfen"
-                    textSize: 12
-                    textColor: Glass.slate
-                    fill: "transparent"
-                    pressedFill: Glass.sunk
-                    line: "transparent"
-                    radius: 8
-                    horizontalPadding: 8
-                    verticalPadding: 5
-                    onClicked: view.model.quit()
-                }
-            }
+        Rectangle {
+            anchors.fill: parent
+            radius: view.radius
+            color: "transparent"
+            border.width: 1
+            border.color: Glass.hudBorder
         }
     }
 }

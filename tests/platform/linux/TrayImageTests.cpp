@@ -34,5 +34,30 @@ TEST(TrayImage, WithoutPicturesIsTransparent) {
     EXPECT_EQ(qAlpha(trayImage({}, {16, 16}).pixel(8, 8)), 0);
 }
 
+TEST(TrayImage, PicturesSuitThePanelWhereItIsKnown) {
+    const TrayContent content{.pictures = {plainPicture(16, opaqueRed)},
+                              .title = {},
+                              .tooltip = {},
+                              .onLight = {plainPicture(16, opaqueGreen)},
+                              .onDark = {plainPicture(16, opaqueBlue)}};
+    EXPECT_EQ(picturesFor(content, std::nullopt), content.pictures);
+    EXPECT_EQ(picturesFor(content, false), content.onLight);
+    EXPECT_EQ(picturesFor(content, true), content.onDark);
+    const TrayContent plain{.pictures = content.pictures, .title = {}, .tooltip = {}};
+    EXPECT_EQ(picturesFor(plain, true), content.pictures);
+}
+
+TEST(TrayImage, PanelIsDarkWhereLightLinesStandOutBetter) {
+    QImage panel(4, 4, QImage::Format_RGB32);
+    panel.fill(QColor(0xEF, 0xEF, 0xEF));
+    EXPECT_FALSE(isDarkPanel(panel));
+    panel.fill(QColor(0xC0, 0, 0));
+    EXPECT_TRUE(isDarkPanel(panel));
+    panel.fill(QColor(130, 130, 130));
+    EXPECT_FALSE(isDarkPanel(panel));
+    panel.fill(QColor(105, 105, 105));
+    EXPECT_TRUE(isDarkPanel(panel));
+}
+
 } // namespace
 } // namespace kestrelfen

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "base/Enumeration.hpp"
+
+namespace kestrelfen {
+
+/// The buttons at the popover's foot. The label is the tooltip and what is spoken.
+enum class FooterItem { screenTime, usageDetail, tasks, breaks, settings, quit };
+
+template <>
+struct EnumerationTable<FooterItem> {
+    static constexpr std::array<EnumerationRow<FooterItem>, 6> rows{{
+        {FooterItem::screenTime, "screenTime", "Screen Time"},
+        {FooterItem::usageDetail, "usageDetail", "App Usage Detail"},
+        {FooterItem::tasks, "tasks", "Tasks"},
+        {FooterItem::breaks, "breaks", "Break History"},
+        {FooterItem::settings, "settings", "Settings"},
+        {FooterItem::quit, "quit", "Quit Kestrelfen"},
+    }};
+};
+
+/// All that lead to a window, in their order.
+inline constexpr std::array footerDestinations{FooterItem::screenTime, FooterItem::usageDetail,
+                                               FooterItem::tasks, FooterItem::breaks, FooterItem::settings};
+
+constexpr std::string_view symbol(FooterItem item) {
+    switch (item) {
+    case FooterItem::screenTime:
+        return "chart.bar.fill";
+    case FooterItem::usageDetail:
+        return "list.bullet.rectangle";
+    case FooterItem::tasks:
+        return "checklist";
+    case FooterItem::breaks:
+        return "clock.arrow.circlepath";
+    case FooterItem::settings:
+        return "gearshape.fill";
+    case FooterItem::quit:
+        return "power";
+    }
+    return {};
+}
+
+} // namespace kestrelfen
