@@ -19,6 +19,12 @@ class EngineFollower {
         return lifeline_.guard([this] { refreshSoon(); });
     }
 
+    /// Runs `closure` a turn of the main queue later: after what the engine had queued for the store.
+    template <typename Closure>
+    void defer(Closure closure) {
+        queue_.post(lifeline_.guard(std::move(closure)));
+    }
+
     void keep(Subscription subscription) { subscriptions_.push_back(std::move(subscription)); }
 
   private:

@@ -1,0 +1,80 @@
+#include "ui/BreakHistoryView/BreakHistoryContent.hpp"
+
+#include "core/Formatters.hpp"
+#include "core/HistoryRetention.hpp"
+#include "core/Settings.hpp"
+#include "platform/ports/TimeFormat.hpp"
+#include "ui/Plural.hpp"
+
+namespace kestrelfen {
+
+namespace {
+
+using Kind = HistoryEntry::Kind::Case;
+
+constexpr const char* dash = "—";
+
+std::string_view tintOf(Kind kind) {
+    switch (kind) {
+    case Kind::completed:
+        return "accent";
+    case Kind::paused:
+        return "slate";
+    case Kind::skipped:
+        return "amber";
+    }
+    return {};
+}
+
+std::string taskOf(const HistoryEntry& entry) {
+    if (entry.taskTitle) {
+        return *entry.taskTitle;
+    }
+    return entry.kind.kind == Kind::paused ? "not counted as screen time" : dash;
+}
+
+HistoryRetention retentionOf(const Preferences& preferences) {
+    constexpr HistoryRetention fallback = HistoryRetention::year;
+    return historyRetention(Settings::integer(preferences, "historyRetentionDays", days(fallback)))
+        .value_or(fallback);
+}
+
+} // namespace
+
+BreakHistoryRow BreakHistoryRow::of(const HistoryEntry& entry, const TimeFormat& timeFormat) {
+    return {.started = timeFormat.shortTime(entry.startedAt),
+            .type = label(entry.kind),
+            .typeTint = tintOf(entry.kind.kind),
+            .duration = entry.seconds ? Formatters::countdown(*entry.seconds) : dash,
+            .task = taskOf(entry),
+            .isWithoutTask = !entry.taskTitle,
+            .display = entry.displayCount < 1 ? dash : counted(entry.displayCount, "screen")};
+}
+
+std::array<std::string, 5> BreakHistoryRow::columns() const {
+    return {started, std::string(type), duration, task, display};
+}
+
+std::string BreakHistoryRow::sentence() const {
+    std::string text;
+    for (const std::string& column : columns()) {
+        if (column != dash) {
+            text += (text.empty() ? "" : ", ") + column;
+        }
+    }
+    return text;
+}
+
+BreakHistoryContent BreakHistoryContent::of(std::size_t rowCount, bool hasLoaded,
+                                            const Preferences& preferences) {
+    const HistoryRetention retention = retentionOf(preferences);
+    BreakHistoryContent content;
+    content.summary =
+        counted(static_cast<std::int64_t>(rowCount), "row") + " · retention " + std::string(label(retention));
+    if (rowCount == 0) {
+        content.emptyLine = hasLoaded ? "Nothing recorded in this range." : "…";
+    }
+    return content;
+}
+
+} // namespace kestrelfen

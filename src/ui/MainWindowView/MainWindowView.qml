@@ -1,0 +1,45 @@
+import QtQuick
+import Kestrelfen
+
+/// The main window: the first run's welcome, and from then on a bar over one of three tabs.
+Item {
+    id: view
+
+    required property MainWindowModel model
+    readonly property bool showsOnboarding: model.showsOnboarding
+    readonly property bool hasWelcome: showsOnboarding && model.onboarding !== null
+
+    function showContent() {
+        if (hasWelcome) {
+            content.setSource("OnboardingView.qml", {
+                model: model.onboarding
+            });
+        } else if (!showsOnboarding) {
+            content.setSource("MainTabs.qml", {
+                model: model
+            });
+        }
+    }
+
+    implicitWidth: 1040
+    implicitHeight: 660
+
+    LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.childrenInherit: true
+
+    Accessible.role: Accessible.Pane
+    Accessible.name: "Kestrelfen"
+
+    onShowsOnboardingChanged: showContent()
+    Component.onCompleted: showContent()
+
+    Backdrop {
+        anchors.fill: parent
+        veil: Glass.glass
+    }
+
+    Loader {
+        id: content
+        anchors.fill: parent
+    }
+}
