@@ -1,0 +1,91 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Kestrelfen
+
+/// The first cadence.
+Column {
+    id: page
+
+    required property OnboardingModel model
+    readonly property var words: model.cadence
+
+    Label {
+        text: page.words.title
+        size: 21
+        weight: Font.DemiBold
+        tracking: -0.4
+        Accessible.role: Accessible.Heading
+    }
+
+    Item {
+        width: 1
+        height: 7
+    }
+
+    Label {
+        text: page.words.sentence
+        size: 13.5
+        color: Glass.slate
+    }
+
+    Item {
+        width: 1
+        height: 22
+    }
+
+    PresetCards {
+        width: parent.width
+        presets: page.model.presets
+        onChosen: key => page.model.choosePreset(key)
+    }
+
+    Item {
+        width: 1
+        height: 20
+    }
+
+    PaneRows {
+        width: parent.width
+        list: page.model.rows
+        onStepped: (key, up) => page.model.step(key, up)
+        onTurned: (key, on) => page.model.turn(key, on)
+    }
+
+    Label {
+        width: parent.width
+        height: visible ? implicitHeight + 12 : 0
+        visible: text !== ""
+        text: page.model.error
+        size: 11.5
+        color: Glass.danger
+        wrapMode: Text.WordWrap
+        Accessible.role: Accessible.AlertMessage
+    }
+
+    Item {
+        width: 1
+        height: 24
+    }
+
+    Item {
+        width: parent.width
+        height: start.height
+
+        SecondaryAction {
+            anchors.left: parent.left
+            anchors.verticalCenter: parent.verticalCenter
+            radius: 12
+            label: page.words.otherButton
+            onClicked: page.model.back()
+        }
+
+        PrimaryAction {
+            id: start
+            anchors.right: parent.right
+            radius: 12
+            label: page.words.prominentButton
+            onClicked: page.model.start()
+        }
+    }
+}

@@ -1,0 +1,27 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Kestrelfen
+
+/// Which of the two pages is up.
+Row {
+    id: dots
+
+    required property int current
+
+    spacing: 6
+    Accessible.role: Accessible.StaticText
+    Accessible.name: "Page " + (current + 1) + " of 2"
+
+    Repeater {
+        model: 2
+        delegate: Rectangle {
+            required property int index
+
+            width: 20
+            height: 4
+            radius: 2
+            color: index === dots.current ? Glass.accent : Glass.rule
+        }
+    }
+}

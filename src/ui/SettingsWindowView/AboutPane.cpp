@@ -1,0 +1,11 @@
+#include "ui/SettingsWindowView/AboutPane.hpp"
+
+namespace kestrelfen {
+
+PaneContent AboutPane::content() {
+    return {"Kestrelfen",
+            "A 20-20-20 eye-break timer that reads the wall clock, pauses itself when you step away, and "
+            "keeps its own receipts locally."};
+}
+
+} // namespace kestrelfen

@@ -1,0 +1,60 @@
+#include "ui/SettingsWindowView/SmartPausePane.hpp"
+
+#include "sensing/SmartPauseLists.hpp"
+#include "sensing/SmartPauseMonitor.hpp"
+#include "ui/AppListEditor/SmartPauseWords.hpp"
+#include "ui/SettingsWindowView/PaneRows.hpp"
+
+namespace kestrelfen {
+
+namespace {
+
+std::string statusText(const SmartPauseMonitor& monitor) {
+    const auto kind = monitor.activeKind();
+    if (!kind) {
+        return "Nothing detected right now";
+    }
+    const std::string text = SmartPauseWords::of(*kind).title + " detected";
+    const auto& name = monitor.activeAppName();
+    return name ? text + " — " + *name : text;
+}
+
+std::string captionOf(SmartPauseKind kind, const Preferences& preferences) {
+    const std::size_t count = SmartPauseLists::bundleIDs(kind, preferences).size();
+    if (kind == SmartPauseKind::focusApps && count == 0) {
+        return "Add the apps that mean you're heads-down";
+    }
+    return SmartPauseWords::of(kind).detection + " · " + std::to_string(count) +
+           (count == 1 ? " app" : " apps");
+}
+
+PaneRow detectorRow(SmartPauseKind kind, const Preferences& preferences) {
+    PaneRow row = toggleRow(preferences, {SmartPauseLists::enableKey(kind), SmartPauseWords::of(kind).title,
+                                          captionOf(kind, preferences)});
+    row.button = "Configure";
+    return row;
+}
+
+} // namespace
+
+PaneContent SmartPausePane::content(const Preferences& preferences, const SmartPauseMonitor& monitor) {
+    PaneContent pane{"Smart Pause", "Holds the timer while you're on a call, watching something, capturing "
+                                    "the screen, or heads-down in an app you chose."};
+    pane.addText(PaneBlock::Kind::status, statusText(monitor));
+    pane.blocks.back().tint = monitor.activeKind() ? "accent" : "faint";
+    if (!monitor.audioProbeSupported()) {
+        pane.addCallout("Reduced", "This Mac won't report per-app audio, so calls and video fall back to "
+                                   "whichever app is frontmost.");
+    }
+    std::vector<PaneRow> rows;
+    for (const SmartPauseKind kind : allCases<SmartPauseKind>()) {
+        rows.push_back(detectorRow(kind, preferences));
+    }
+    pane.addRows({}, std::move(rows));
+    pane.addText(PaneBlock::Kind::footnote,
+                 "Detected from microphone and audio activity, running apps, and the frontmost app. No new "
+                 "permissions, and nothing leaves your Mac.");
+    return pane;
+}
+
+} // namespace kestrelfen

@@ -1,0 +1,53 @@
+#include "ui/SettingsWindowView/TimingPane.hpp"
+
+#include "ui/LaunchAtLogin.hpp"
+#include "ui/SettingsWindowView/PaneRows.hpp"
+
+namespace kestrelfen {
+
+namespace {
+
+PaneRow longBreakRow(const Preferences& preferences) {
+    PaneRow row = durationRow(Steppers::longBreak, preferences, "Long break", "must exceed the short break");
+    if (Steppers::longBreak.value(preferences) <= Steppers::breakDuration.value(preferences)) {
+        markInvalid(row);
+    }
+    return row;
+}
+
+PaneRow warningLeadRow(const Preferences& preferences) {
+    PaneRow row = durationRow(Steppers::warningLead, preferences, "Warning HUD lead time",
+                              "Shown before the overlay appears");
+    if (Steppers::warningLead.value(preferences) >= Steppers::workInterval.value(preferences)) {
+        row.caption = "Must be shorter than the work interval";
+        markInvalid(row);
+    }
+    return row;
+}
+
+PaneRow launchAtLoginRow(const LaunchAtLogin& launchAtLogin) {
+    return {.key = LaunchAtLogin::key,
+            .title = "Launch at login",
+            .caption = "SMAppService · also in the menu bar",
+            .control = ToggleState{launchAtLogin.isOn()}};
+}
+
+} // namespace
+
+PaneContent TimingPane::content(const Preferences& preferences, const LaunchAtLogin& launchAtLogin) {
+    PaneContent pane{
+        "Timing",
+        "Validated on commit, including the cross-field rules a single stepper can't express.",
+    };
+    pane.addRows({},
+                 {durationRow(Steppers::workInterval, preferences, "Work interval"),
+                  durationRow(Steppers::breakDuration, preferences, "Short break"), longBreakRow(preferences),
+                  cyclesRow(preferences), warningLeadRow(preferences), launchAtLoginRow(launchAtLogin)});
+    if (const auto& error = launchAtLogin.error()) {
+        pane.addText(PaneBlock::Kind::message, *error);
+        pane.blocks.back().tint = "danger";
+    }
+    return pane;
+}
+
+} // namespace kestrelfen
