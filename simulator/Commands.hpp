@@ -35,6 +35,21 @@ Command senseCommand(std::string_view name);
 Command historyCommand(std::string_view name);
 Command programCommand(std::string_view name);
 Command pressCommand(std::string_view name);
+Command popoverCommand(std::string_view name);
+Command mainWindowCommand(std::string_view name);
+Command settingsCommand(std::string_view name);
+Command chooseCommand(std::string_view name);
+Command onboardingCommand(std::string_view name);
+
+/// `press popover`, with the words that follow.
+void pressPopover(Simulation& simulation, Arguments& arguments);
+/// `press dashboard`.
+void pressDashboard(Simulation& simulation, Arguments& arguments);
+/// `press onboarding`.
+void pressOnboarding(Simulation& simulation, Arguments& arguments);
+
+/// `choose usageSource` with that word.
+void chooseUsageSource(Simulation& simulation, const std::string& word);
 
 /// Says that a control is not there, or is disabled.
 void notAvailable();

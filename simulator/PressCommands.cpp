@@ -3,7 +3,6 @@
 #include "Output.hpp"
 #include "ScenarioError.hpp"
 #include "Simulation.hpp"
-#include "UnbuiltWords.hpp"
 #include "Values.hpp"
 #include "ui/BreakOverlayView/BreakOverlayContent.hpp"
 #include "ui/PreBreakWarningView/PreBreakWarningActions.hpp"
@@ -89,8 +88,14 @@ void press(Simulation& simulation, Arguments& arguments) {
         pressOverlay(simulation, arguments);
     } else if (view == "warning") {
         pressWarning(simulation, arguments);
+    } else if (view == "popover") {
+        pressPopover(simulation, arguments);
+    } else if (view == "dashboard") {
+        pressDashboard(simulation, arguments);
+    } else if (view == "onboarding") {
+        pressOnboarding(simulation, arguments);
     } else {
-        throw ScenarioError(quoted(view) + (isUnbuiltView(view) ? ": not built yet" : " has no controls"));
+        throw ScenarioError(quoted(view) + " has no controls");
     }
 }
 

@@ -30,6 +30,38 @@ void finishOnboarding(Simulation& simulation, Arguments& arguments) {
     simulation.program().delegate().finishOnboarding();
 }
 
+void closeWindow(Simulation& simulation, Arguments& arguments) {
+    const std::string& window = arguments.take("main or settings");
+    arguments.end();
+    if (window != "main" && window != "settings") {
+        throw ScenarioError(quoted(window) + " is not main or settings");
+    }
+    simulation.program();
+    if (!simulation.scenes().close(window == "main" ? Scene::main : Scene::settings)) {
+        notAvailable();
+    }
+}
+
+void chooseTab(Simulation& simulation, Arguments& arguments) {
+    const std::string& name = arguments.take("NAME");
+    arguments.end();
+    const auto tab = fromRawValue<MainTab>(name);
+    if (!tab) {
+        throw ScenarioError(quoted(name) + " is no tab");
+    }
+    simulation.program().delegate().router().setMainTab(*tab);
+}
+
+void choosePane(Simulation& simulation, Arguments& arguments) {
+    const std::string& name = arguments.take("NAME");
+    arguments.end();
+    const auto pane = fromRawValue<SettingsPane>(name);
+    if (!pane) {
+        throw ScenarioError(quoted(name) + " is no pane");
+    }
+    simulation.program().delegate().router().setSettingsPane(*pane);
+}
+
 using Operation = void (*)(BreakEngine&, Date);
 
 constexpr std::array<std::pair<std::string_view, Operation>, 6> operations{{
@@ -71,10 +103,13 @@ void perform(Simulation& simulation, Arguments& arguments) {
     throw ScenarioError(quoted(name) + " is no operation");
 }
 
-constexpr std::array<NamedCommand, 5> commands{{{"launch", launch},
+constexpr std::array<NamedCommand, 8> commands{{{"launch", launch},
                                                 {"quit", quit},
                                                 {"kill", kill},
                                                 {"finish-onboarding", finishOnboarding},
+                                                {"close", closeWindow},
+                                                {"tab", chooseTab},
+                                                {"pane", choosePane},
                                                 {"do", perform}}};
 
 } // namespace

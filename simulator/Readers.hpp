@@ -4,6 +4,7 @@
 #include "Json.hpp"
 
 #include <array>
+#include <initializer_list>
 #include <string_view>
 
 namespace kestrelfen {
@@ -33,5 +34,12 @@ constexpr Reader readerNamed(const std::array<NamedReader, count>& readers, std:
 Reader viewReader(std::string_view name);
 Reader senseReader(std::string_view name);
 Reader historyReader(std::string_view name);
+Reader popoverReader(std::string_view name);
+Reader mainWindowReader(std::string_view name);
+Reader settingsReader(std::string_view name);
+Reader onboardingReader(std::string_view name);
+
+/// A view that is not up: every key is there, and null.
+Json absentView(std::initializer_list<const char*> keys);
 
 } // namespace kestrelfen

@@ -4,7 +4,6 @@
 #include "Output.hpp"
 #include "Readings.hpp"
 #include "ScenarioError.hpp"
-#include "UnbuiltWords.hpp"
 #include "Values.hpp"
 #include "Words.hpp"
 #include "platform/ports/Utf8.hpp"
@@ -48,7 +47,8 @@ void Scenario::runLine(const std::string& line) {
 
 void Scenario::runCommand(const std::string& name, Arguments& arguments) {
     for (const auto find :
-         {timeCommand, worldCommand, senseCommand, historyCommand, programCommand, pressCommand}) {
+         {timeCommand, worldCommand, senseCommand, historyCommand, programCommand, pressCommand,
+          popoverCommand, mainWindowCommand, settingsCommand, chooseCommand, onboardingCommand}) {
         if (const Command command = find(name)) {
             command(simulation_, arguments);
             return;
@@ -66,7 +66,7 @@ void Scenario::runCommand(const std::string& name, Arguments& arguments) {
         arguments.end();
         simulation_.events().forget();
     } else {
-        throw ScenarioError(quoted(name) + (isUnbuiltCommand(name) ? ": not built yet" : " is no command"));
+        throw ScenarioError(quoted(name) + " is no command");
     }
 }
 

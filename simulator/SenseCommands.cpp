@@ -135,8 +135,25 @@ void browser(Simulation& simulation, Arguments& arguments) {
     }
 }
 
-constexpr std::array<NamedCommand, 5> commands{
-    {{"display", display}, {"app", app}, {"front", front}, {"audio", audio}, {"browser", browser}}};
+void loginItem(Simulation& simulation, Arguments& arguments) {
+    const std::string& word = arguments.take("ok or failing");
+    if (word != "ok" && word != "failing") {
+        throw ScenarioError(quoted(word) + " is not ok or failing");
+    }
+    std::optional<std::string> failure;
+    if (word == "failing") {
+        failure = arguments.take("TEXT");
+    }
+    arguments.end();
+    simulation.world().loginItem.setFailure(std::move(failure));
+}
+
+constexpr std::array<NamedCommand, 6> commands{{{"display", display},
+                                                {"app", app},
+                                                {"front", front},
+                                                {"audio", audio},
+                                                {"browser", browser},
+                                                {"login-item", loginItem}}};
 
 } // namespace
 

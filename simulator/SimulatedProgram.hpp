@@ -3,6 +3,8 @@
 #include "SimulatedWindows.hpp"
 #include "platform/posix/PosixTextFileWriter.hpp"
 #include "shell/AppDelegate.hpp"
+#include "ui/LaunchAtLogin.hpp"
+#include "ui/OnboardingView/Onboarding.hpp"
 #include "ui/SettingsWindowView/HistoryDataActions.hpp"
 
 #include <functional>
@@ -23,7 +25,18 @@ class SimulatedProgram {
     /// Null when the store could not be opened.
     KestrelfenStore* store() { return delegate_.store(); }
     HistoryDataActions& historyData() { return historyData_; }
+    /// The Timing pane's switch.
+    LaunchAtLogin& launchAtLogin() { return launchAtLogin_; }
+    /// It starts over when it has been finished.
+    Onboarding& onboarding() { return onboarding_; }
     std::int64_t breakWindowCount();
+
+    /// What the person chose on the dashboard.
+    struct DashboardChoices {
+        UsageSource usageSource = UsageSource::apps;
+        std::optional<Date> hoveredDay;
+    };
+    DashboardChoices& dashboardChoices() { return dashboardChoices_; }
 
     /// The overlay of the first display, or null.
     SimulatedBreakWindow* firstOverlay();
@@ -34,6 +47,10 @@ class SimulatedProgram {
     SimulatedWindows windows_;
     AppDelegate delegate_;
     HistoryDataActions historyData_;
+    LaunchAtLogin launchAtLogin_;
+    Onboarding onboarding_;
+    Subscription onboardingEnd_;
+    DashboardChoices dashboardChoices_;
 };
 
 } // namespace kestrelfen

@@ -7,6 +7,11 @@ namespace kestrelfen {
 Simulation::Simulation(std::optional<std::filesystem::path> storeFile) : store_(std::move(storeFile)) {
     listenToOutput();
     listenToServices();
+    scenes_.onClosed = [this](Scene scene) {
+        if (scene == Scene::main && program_) {
+            program_->onboarding().startOver();
+        }
+    };
 }
 
 void Simulation::tell(const char* kind, const Json& details) {
@@ -33,6 +38,7 @@ void Simulation::listenToServices() {
             tell("script", {{"browser", rawValue(*browser)}});
         }
     };
+    world_.loginItem.onSet = [this](bool enabled) { tell("login-item", {{"enabled", enabled}}); };
     world_.activationPolicy.onSet = [this](ActivationPolicyKind policy) {
         tell("dock", {{"policy", rawValue(policy)}});
     };
@@ -63,19 +69,14 @@ void Simulation::launch() {
     listenToProgram();
     program_->delegate().applicationDidFinishLaunching();
     if (program_->delegate().needsOnboarding()) {
-        openMainWindow();
+        scenes_.open(Scene::main);
     }
-}
-
-void Simulation::openMainWindow() {
-    world_.activationPolicy.setWindows({{.isVisible = true, .isTitled = true}});
-    world_.activationPolicy.send(ProgramWindowEvent::didBecomeKey);
 }
 
 /// A new process has no window yet, and no place among the tasks.
 void Simulation::resetDockPresence() {
     const auto onSet = std::exchange(world_.activationPolicy.onSet, nullptr);
-    world_.activationPolicy.setWindows({});
+    scenes_.forgetAll();
     world_.activationPolicy.set(ActivationPolicyKind::accessory);
     world_.activationPolicy.onSet = onSet;
 }

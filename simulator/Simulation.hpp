@@ -2,6 +2,7 @@
 
 #include "EventLog.hpp"
 #include "SimulatedProgram.hpp"
+#include "SimulatedScenes.hpp"
 #include "SimulatedStore.hpp"
 #include "platform/fake/FakePlatform.hpp"
 
@@ -19,6 +20,7 @@ class Simulation {
     FakePlatform& world() { return world_; }
     SimulatedStore& store() { return store_; }
     EventLog& events() { return events_; }
+    SimulatedScenes& scenes() { return scenes_; }
 
     bool isRunning() const { return program_ != nullptr; }
     /// Throws a ScenarioError when none runs.
@@ -40,12 +42,12 @@ class Simulation {
     void listenToOutput();
     void listenToServices();
     void listenToProgram();
-    void openMainWindow();
     void resetDockPresence();
 
     FakePlatform world_;
     SimulatedStore store_;
     EventLog events_;
+    SimulatedScenes scenes_{world_.activationPolicy};
     std::unique_ptr<SimulatedProgram> program_;
 };
 

@@ -83,16 +83,6 @@ Json preferencesReading(Simulation& simulation, Arguments& arguments) {
     return {{"values", values}};
 }
 
-/// A view that is not up: every key is there, and null.
-Json absentView(std::initializer_list<const char*> keys) {
-    Json json = Json::object();
-    for (const char* const key : keys) {
-        json[key] = nullptr;
-    }
-    json["visible"] = false;
-    return json;
-}
-
 template <typename Controls>
 Json textsOf(const Controls& controls) {
     Json texts = Json::array();
@@ -151,13 +141,35 @@ Json statusItemReading(Simulation& simulation, Arguments& arguments) {
     return {{"symbol", content.symbol}, {"text", content.text}};
 }
 
-constexpr std::array<NamedReader, 5> readers{{{"engine", engineReading},
+Json windowsReading(Simulation& simulation, Arguments& arguments) {
+    arguments.end();
+    const AppRouter& router = simulation.program().delegate().router();
+    const auto pending = router.pendingUsageDetail();
+    return {{"main", simulation.scenes().isOpen(Scene::main)},
+            {"settings", simulation.scenes().isOpen(Scene::settings)},
+            {"mainTab", rawValue(router.mainTab())},
+            {"settingsPane", rawValue(router.settingsPane())},
+            {"pendingUsageDetail", pending ? Json(rawValue(*pending)) : Json(nullptr)},
+            {"policy", rawValue(simulation.world().activationPolicy.current())}};
+}
+
+constexpr std::array<NamedReader, 6> readers{{{"engine", engineReading},
                                               {"prefs", preferencesReading},
                                               {"overlay", overlayReading},
                                               {"warning", warningReading},
-                                              {"status-item", statusItemReading}}};
+                                              {"status-item", statusItemReading},
+                                              {"windows", windowsReading}}};
 
 } // namespace
+
+Json absentView(std::initializer_list<const char*> keys) {
+    Json json = Json::object();
+    for (const char* const key : keys) {
+        json[key] = nullptr;
+    }
+    json["visible"] = false;
+    return json;
+}
 
 Reader viewReader(std::string_view name) {
     return readerNamed(readers, name);

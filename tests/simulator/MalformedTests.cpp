@@ -121,6 +121,10 @@ constexpr MalformedRow programRows[] = {
     {"press overlay skip", "no program is launched"},
     {"press overlay snooze 1", "no program is launched"},
     {"press warning start", "no program is launched"},
+    {"press popover 1", "no program is launched"},
+    {"go tasks", "no program is launched"},
+    {"go quit", "no program is launched"},
+    {"show popover", "no program is launched"},
     {"escape", "no program is launched"},
     {"show engine", "no program is launched"},
     {"show overlay", "no program is launched"},
@@ -183,36 +187,18 @@ TEST(Malformed, WithAProgram) {
                         {"press warning skip", R"("skip" is no control of the warning)"},
                         {"press warning snooze ten", R"("ten" is not a whole number)"},
                         {"press warning start now", R"(unexpected "now")"},
+                        {"press popover", "missing 1, 2 or 3"},
+                        {"press popover 0", R"("0" is not 1, 2 or 3)"},
+                        {"press popover 4", R"("4" is not 1, 2 or 3)"},
+                        {"press popover one", R"("one" is not a whole number)"},
+                        {"press popover 1 2", R"(unexpected "2")"},
+                        {"go", "missing ITEM"},
+                        {"go home", R"("home" is no item of the popover)"},
+                        {"go tasks now", R"(unexpected "now")"},
+                        {"show popover now", R"(unexpected "now")"},
                         {"escape twice", R"(unexpected "twice")"},
                         {"show engine now", R"(unexpected "now")"},
                     });
-}
-
-TEST(Malformed, WhatIsNotBuiltYet) {
-    for (const char* const command :
-         {"apps meetings restore", "category a reset", "choose idleMode off", "choose-preset strict",
-          "close main", "go tasks", "hover none", "login-item ok", "pane timing",
-          "step workIntervalSeconds up", "tab tasks", "website safari true"}) {
-        const std::string line = command;
-        const MalformedRow row{command, nullptr};
-        const SimulatorRun run = simulate("launch\n" + line + "\n");
-        EXPECT_EQ(run.status, 2) << quotedRow(row);
-        EXPECT_EQ(run.errors, "-:2: \"" + line.substr(0, line.find(' ')) + "\": not built yet\n");
-    }
-}
-
-TEST(Malformed, ReadingsAndViewsThatAreNotBuiltYet) {
-    for (const std::string what :
-         {"score", "popover", "dashboard", "breaks", "usage", "pane", "app-list", "onboarding", "windows"}) {
-        const std::string error = ": \"" + what + "\": not built yet\n";
-        EXPECT_EQ(simulate("launch\nshow " + what).errors, "-:2" + error);
-        EXPECT_EQ(simulate("launch\nexpect " + what + " key value").errors, "-:2" + error);
-    }
-    for (const std::string view : {"popover", "dashboard", "onboarding"}) {
-        const SimulatorRun run = simulate("launch\npress " + view + " 1\n");
-        EXPECT_EQ(run.status, 2);
-        EXPECT_EQ(run.errors, "-:2: \"" + view + "\": not built yet\n");
-    }
 }
 
 } // namespace

@@ -1,0 +1,85 @@
+#include "Commands.hpp"
+#include "DashboardVisit.hpp"
+#include "ScenarioError.hpp"
+#include "Values.hpp"
+#include "sensing/AppCategory.hpp"
+#include "ui/ScreenTimeView/DashboardActions.hpp"
+#include "ui/ScreenTimeView/DashboardContent.hpp"
+
+namespace kestrelfen {
+
+namespace {
+
+void hover(Simulation& simulation, Arguments& arguments) {
+    const std::string word = arguments.take("DAY or none");
+    const auto day = word == "none" ? std::nullopt : std::optional(dayOf(word));
+    arguments.end();
+    withDashboard(simulation, [&](Dashboard& dashboard) {
+        const auto start = day ? std::optional(simulation.world().calendar.startOfDay(*day)) : std::nullopt;
+        if (start && !dashboard.lastSevenDays().barOf(*start)) {
+            notAvailable();
+        } else {
+            dashboard.setHoveredDay(start);
+        }
+    });
+}
+
+void category(Simulation& simulation, Arguments& arguments) {
+    const std::string bundleIdentifier = arguments.take("BUNDLE");
+    const std::string word = arguments.take("VALUE");
+    arguments.end();
+    const auto chosen = fromRawValue<AppCategory>(word);
+    if (!chosen && word != "reset") {
+        throw ScenarioError(quoted(word) + " is no category");
+    }
+    simulation.program();
+    Preferences& preferences = simulation.world().preferences;
+    if (chosen) {
+        setCategory(*chosen, bundleIdentifier, preferences);
+    } else if (hasOverride(bundleIdentifier, preferences)) {
+        clearOverride(bundleIdentifier, preferences);
+    } else {
+        notAvailable();
+    }
+}
+
+using Click = void (DashboardActions::*)();
+
+constexpr std::array<Click, 3> clicks{&DashboardActions::breakNowOrEnd, &DashboardActions::postpone,
+                                      &DashboardActions::pauseOrResume};
+
+constexpr std::array<NamedCommand, 2> commands{{{"hover", hover}, {"category", category}}};
+
+} // namespace
+
+void pressDashboard(Simulation& simulation, Arguments& arguments) {
+    const std::string& word = arguments.take("1, 2 or 3");
+    arguments.end();
+    const std::int64_t number = integerOf(word);
+    if (number < 1 || number > 3) {
+        throw ScenarioError(quoted(word) + " is not 1, 2 or 3");
+    }
+    const auto index = static_cast<std::size_t>(number - 1);
+    withDashboard(simulation, [&](const Dashboard& dashboard) {
+        if (DashboardContent::of(dashboard).hero.buttons.at(index).enabled) {
+            DashboardActions actions(simulation.program().engine(), simulation.world().ports());
+            (actions.*clicks.at(index))();
+        } else {
+            notAvailable();
+        }
+    });
+}
+
+void chooseUsageSource(Simulation& simulation, const std::string& word) {
+    const auto source = fromRawValue<UsageSource>(word);
+    if (!source) {
+        throw ScenarioError(quoted(word) + " is not offered");
+    }
+    withDashboard(simulation, [source](Dashboard& dashboard) { dashboard.setUsageSource(*source); });
+}
+
+Command mainWindowCommand(std::string_view name) {
+    return commandNamed(commands, name);
+}
+
+} // namespace kestrelfen

@@ -1,0 +1,92 @@
+#include "Commands.hpp"
+#include "ScenarioError.hpp"
+#include "Simulation.hpp"
+#include "Values.hpp"
+#include "ui/AppListEditor/AppListEditor.hpp"
+#include "ui/SettingsWindowView/SettingsControls.hpp"
+#include "ui/SettingsWindowView/WebsiteStats.hpp"
+
+namespace kestrelfen {
+
+namespace {
+
+void step(Simulation& simulation, Arguments& arguments) {
+    const std::string key = arguments.take("KEY");
+    const std::string& word = arguments.take("up or down");
+    arguments.end();
+    const Stepper* const stepper = Stepper::find(key);
+    if (!stepper) {
+        throw ScenarioError(quoted(key) + " has no stepper");
+    }
+    if (word != "up" && word != "down") {
+        throw ScenarioError(quoted(word) + " is not up or down");
+    }
+    simulation.program();
+    SettingsControls controls(simulation.world().preferences);
+    if (!controls.step(*stepper, word == "up" ? StepDirection::up : StepDirection::down)) {
+        notAvailable();
+    }
+}
+
+SmartPauseKind kindOf(const std::string& word) {
+    if (const auto kind = fromRawValue<SmartPauseKind>(word)) {
+        return *kind;
+    }
+    throw ScenarioError(quoted(word) + " is no kind of smart pause");
+}
+
+void addOrRemove(AppListEditor& editor, const std::string& action, const std::string& bundleID) {
+    if (action == "add" && editor.offers(bundleID)) {
+        editor.add(bundleID);
+    } else if (action == "remove" && editor.lists(bundleID)) {
+        editor.remove(bundleID);
+    } else {
+        notAvailable();
+    }
+}
+
+void apps(Simulation& simulation, Arguments& arguments) {
+    const SmartPauseKind kind = kindOf(arguments.take("KIND"));
+    const std::string action = arguments.take("add, remove or restore");
+    const bool restores = action == "restore";
+    if (!restores && action != "add" && action != "remove") {
+        throw ScenarioError(quoted(action) + " is not add, remove or restore");
+    }
+    const std::string bundleID = restores ? std::string() : arguments.take("BUNDLE");
+    arguments.end();
+    simulation.program();
+    AppListEditor editor(simulation.world().ports(), kind);
+    if (restores) {
+        editor.restoreDefaults();
+    } else {
+        addOrRemove(editor, action, bundleID);
+    }
+}
+
+void website(Simulation& simulation, Arguments& arguments) {
+    const std::string& kind = arguments.take("KIND");
+    const auto browser = fromRawValue<Browser>(kind);
+    if (!browser) {
+        throw ScenarioError(quoted(kind) + " is no browser");
+    }
+    const bool on = booleanOf(arguments.take("BOOL"));
+    arguments.end();
+    WebsiteStats stats(simulation.world().ports(), simulation.program().delegate().browserScripting());
+    if (!isInstalled(*browser, simulation.world().applications)) {
+        notAvailable();
+        return;
+    }
+    stats.reload();
+    stats.turn(*browser, on);
+    simulation.settle();
+}
+
+constexpr std::array<NamedCommand, 3> commands{{{"step", step}, {"apps", apps}, {"website", website}}};
+
+} // namespace
+
+Command settingsCommand(std::string_view name) {
+    return commandNamed(commands, name);
+}
+
+} // namespace kestrelfen
