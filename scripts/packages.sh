@@ -7,9 +7,10 @@ packages_to_build=(
     libxcb1-dev libxcb-dpms0-dev libxcb-res0-dev libxcb-screensaver0-dev
     nlohmann-json3-dev libsqlitecpp-dev libsqlite3-dev
     libpulse-dev
-    libwayland-dev libwayland-bin wayland-protocols
+    libwayland-dev libwayland-bin wayland-protocols libxkbcommon-dev
 )
-packages_to_start=(fonts-inter fonts-jetbrains-mono tzdata)
+# qt6-wayland is for Wayland desktops without an X server.
+packages_to_start=(fonts-inter fonts-jetbrains-mono tzdata qt6-wayland)
 packages_to_reach_a_display=(x11-utils)
 # dbus-x11 is there for dunst, which would bring systemd's user session else.
 packages_for_a_desktop=(xvfb openbox tint2 dunst dbus dbus-x11 imagemagick x11-utils xdotool)
@@ -17,7 +18,7 @@ packages_to_test=(
     libgtest-dev libgmock-dev libbenchmark-dev clang-format
     "${packages_for_a_desktop[@]}" at-spi2-core xterm x11-xserver-utils python3 python3-dbus python3-dbusmock python3-gi
     pulseaudio pulseaudio-utils
-    sway foot wtype
+    sway foot wtype grim
 )
 # Ubuntu has it as a snap only; where it is not installed, the tests with a real browser are skipped.
 if grep -qsx 'ID=debian' /etc/os-release; then
@@ -29,11 +30,13 @@ fedora_packages="gcc-c++ cmake ninja-build pkgconf qt6-qtbase-devel qt6-qtdeclar
 libxcb-devel json-devel rsms-inter-fonts jetbrains-mono-fonts xorg-x11-server-Xvfb openbox tint2 dunst \
 dbus-daemon ImageMagick xdpyinfo gtest-devel gmock-devel google-benchmark-devel clang-tools-extra at-spi2-core xterm \
 xdotool xset xrandr xprop xwininfo python3-dbus python3-gobject python3-dbusmock pulseaudio-libs-devel pulseaudio \
-pulseaudio-utils sqlitecpp-devel sqlite-devel wayland-devel wayland-protocols-devel sway foot wtype"
+pulseaudio-utils sqlitecpp-devel sqlite-devel wayland-devel wayland-protocols-devel libxkbcommon-devel \
+qt6-qtwayland sway foot wtype grim"
 arch_packages="gcc cmake ninja pkgconf qt6-base qt6-declarative libxcb nlohmann-json inter-font \
 ttf-jetbrains-mono xorg-server-xvfb openbox tint2 dunst dbus imagemagick xorg-xdpyinfo gtest benchmark clang \
 at-spi2-core xterm xdotool xorg-xset xorg-xrandr xorg-xprop xorg-xwininfo python-dbus python-gobject python-dbusmock \
-libpulse pulseaudio sqlitecpp sqlite wayland wayland-protocols sway foot wtype"
+libpulse pulseaudio sqlitecpp sqlite wayland wayland-protocols \
+libxkbcommon qt6-wayland sway foot wtype grim"
 
 # Prints those of the packages that are not installed.
 missing_packages() {
@@ -105,7 +108,7 @@ require_tools() {
         command -v "$tool" >/dev/null || lacking+=("$tool")
     done
     for tool in Qt6Core Qt6Quick xcb-dpms xcb-res xcb-screensaver nlohmann_json sqlite3 libpulse \
-        wayland-client wayland-scanner wayland-protocols; do
+        wayland-client wayland-cursor wayland-scanner wayland-protocols xkbcommon; do
         pkg-config --exists "$tool" 2>/dev/null || lacking+=("$tool")
     done
     if [ "${#lacking[@]}" -eq 0 ]; then

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Enumeration.hpp"
+#include "base/Observable.hpp"
 
 #include <optional>
 
@@ -54,7 +55,7 @@ struct EnumerationTable<UsageSource> {
     }};
 };
 
-/// Where the windows are to stand. Main thread only. Watchers are told of real changes.
+/// Where the windows are to stand. Main thread only.
 class Navigation {
   public:
     virtual ~Navigation() = default;
@@ -66,6 +67,9 @@ class Navigation {
     /// Waits for the view that takes it, and sets it back to none.
     virtual std::optional<UsageSource> pendingUsageDetail() const = 0;
     virtual void setPendingUsageDetail(std::optional<UsageSource> source) = 0;
+
+    /// Tells of every real change of these.
+    [[nodiscard]] virtual Subscription observe(std::function<void()> changed) = 0;
 };
 
 } // namespace kestrelfen

@@ -17,7 +17,7 @@ class AppRouter final : public Navigation {
         pendingUsageDetail_.set(source);
     }
 
-    [[nodiscard]] Subscription observe(std::function<void()> changed) {
+    [[nodiscard]] Subscription observe(std::function<void()> changed) override {
         return changes_.add(std::move(changed));
     }
 

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace kestrelfen {
 
@@ -36,5 +37,8 @@ struct HistoryEntry {
 
     friend bool operator==(const HistoryEntry&, const HistoryEntry&) = default;
 };
+
+/// "Long break", "Paused · idle".
+std::string_view label(const HistoryEntry::Kind& kind);
 
 } // namespace kestrelfen

@@ -3,21 +3,123 @@
 find_package(Qt6 6.4 REQUIRED COMPONENTS Quick)
 
 set(views
+    AppListEditor/AppListColumn.qml
+    AppListEditor/AppListEditor.qml
+    AppListEditor/ListedAppRow.qml
+    AppListEditor/RunningAppRow.qml
+    AppListEditor/SymbolButton.qml
+    BreakHistoryView/BreakHistoryView.qml
+    BreakHistoryView/HistoryHeader.qml
+    BreakHistoryView/HistoryRow.qml
     BreakOverlayView/BreakOverlayButton.qml
     BreakOverlayView/BreakOverlayView.qml
     BreakOverlayView/BreathingRing.qml
     BreakOverlayView/CadenceIndicator.qml
+    GlassComponents/Backdrop.qml
+    GlassComponents/ConfirmDialog.qml
     GlassComponents/CountdownRing.qml
+    GlassComponents/DangerAction.qml
+    GlassComponents/Eyebrow.qml
+    GlassComponents/FocusRing.qml
     GlassComponents/Glass.qml
     GlassComponents/GlassButton.qml
+    GlassComponents/GlassSurface.qml
+    GlassComponents/GlassToggle.qml
     GlassComponents/HudCard.qml
+    GlassComponents/Label.qml
+    GlassComponents/ModalVeil.qml
+    GlassComponents/PlainLink.qml
+    GlassComponents/PopupMenu.qml
+    GlassComponents/PopupMenuRow.qml
+    GlassComponents/PressArea.qml
+    GlassComponents/PrimaryAction.qml
+    GlassComponents/RowGround.qml
+    GlassComponents/RowGroup.qml
+    GlassComponents/ScrollArea.qml
+    GlassComponents/ScrollThumb.qml
+    GlassComponents/SecondaryAction.qml
+    GlassComponents/SegmentedPill.qml
+    GlassComponents/SegmentedPills.qml
+    GlassComponents/SettingRow.qml
+    GlassComponents/SheetCard.qml
+    GlassComponents/StepperButton.qml
+    GlassComponents/StepperControl.qml
+    GlassComponents/TextInputField.qml
+    GlassComponents/ToggleKnob.qml
     GlassComponents/TrackBar.qml
+    GlassComponents/TypeBadge.qml
+    MainWindowView/ChromeButton.qml
+    MainWindowView/MainChrome.qml
+    MainWindowView/MainTabs.qml
+    MainWindowView/MainWindowView.qml
+    MainWindowView/RestingTip.qml
+    MenuBarView/ActiveTaskRow.qml
+    MenuBarView/CycleChip.qml
+    MenuBarView/FooterButton.qml
+    MenuBarView/MenuBarActionRow.qml
+    MenuBarView/MenuBarColumn.qml
+    MenuBarView/MenuBarFooterRow.qml
     MenuBarView/MenuBarHeader.qml
+    MenuBarView/MenuBarToday.qml
     MenuBarView/MenuBarView.qml
+    MenuBarView/PopoverAction.qml
+    MenuBarView/TodayRow.qml
+    OnboardingView/CadencePage.qml
+    OnboardingView/MarkTile.qml
+    OnboardingView/OnboardingView.qml
+    OnboardingView/PageDots.qml
+    OnboardingView/PresetCard.qml
+    OnboardingView/PresetCards.qml
+    OnboardingView/PromiseRow.qml
+    OnboardingView/WelcomePage.qml
+    PreBreakWarningView/HoverTip.qml
     PreBreakWarningView/PreBreakWarningView.qml
-    PreBreakWarningView/WarningButtons.qml)
+    PreBreakWarningView/PulsingDisc.qml
+    PreBreakWarningView/WarningButtons.qml
+    ScreenTimeView/HeroButtons.qml
+    ScreenTimeView/HeroCard.qml
+    ScreenTimeView/HeroStats.qml
+    ScreenTimeView/ScoreCard.qml
+    ScreenTimeView/ScoreMeter.qml
+    ScreenTimeView/ScreenTimeView.qml
+    ScreenTimeView/StoreBanner.qml
+    ScreenTimeView/UsageCard.qml
+    ScreenTimeView/UsageRow.qml
+    ScreenTimeView/WeekBar.qml
+    ScreenTimeView/WeekCard.qml
+    ScreenTimeView/WeekChart.qml
+    SettingsWindowView/ChoiceCard.qml
+    SettingsWindowView/HistoryDataButtons.qml
+    SettingsWindowView/NotificationPreview.qml
+    SettingsWindowView/NotificationPreviews.qml
+    SettingsWindowView/PaneBlock.qml
+    SettingsWindowView/PaneCallout.qml
+    SettingsWindowView/PaneCards.qml
+    SettingsWindowView/PaneRow.qml
+    SettingsWindowView/PaneRows.qml
+    SettingsWindowView/PaneStatus.qml
+    SettingsWindowView/RailRow.qml
+    SettingsWindowView/SettingsPane.qml
+    SettingsWindowView/SettingsRail.qml
+    SettingsWindowView/SettingsWindowView.qml
+    TasksView/TaskCheckbox.qml
+    TasksView/TaskComposer.qml
+    TasksView/TaskFooter.qml
+    TasksView/TaskListRow.qml
+    TasksView/TaskRowContent.qml
+    TasksView/TasksView.qml
+    UsageDetailView/CategoryChip.qml
+    UsageDetailView/GlassList.qml
+    UsageDetailView/MenuLabel.qml
+    UsageDetailView/UsageDetailRow.qml
+    UsageDetailView/UsageDetailView.qml
+    UsageDetailView/UsageFilters.qml)
 
 set(models
+    AppListEditor/AppListModel.cpp
+    AppListEditor/AppListModel.hpp
+    BreakHistoryView/HistoryModel.cpp
+    BreakHistoryView/HistoryModel.hpp
     BreakOverlayView/BreakOverlayModel.cpp
     BreakOverlayView/BreakOverlayModel.hpp
     ControlListModel.cpp
@@ -29,18 +131,52 @@ set(models
     GlassComponents/CardShadow.hpp
     GlassComponents/Halo.cpp
     GlassComponents/Halo.hpp
+    GlassComponents/ModalLayer.cpp
+    GlassComponents/ModalLayer.hpp
     GlassComponents/PictureItem.cpp
     GlassComponents/PictureItem.hpp
     GlassComponents/RingArc.cpp
     GlassComponents/RingArc.hpp
+    GlassComponents/SpringValue.cpp
+    GlassComponents/SpringValue.hpp
+    GlassComponents/Symbol.cpp
+    GlassComponents/Symbol.hpp
+    GlassComponents/SymbolDrawings.cpp
+    GlassComponents/SymbolDrawings.hpp
+    GlassComponents/SymbolPainting.cpp
+    GlassComponents/SymbolPainting.hpp
+    GlassComponents/SymbolPath.cpp
+    GlassComponents/SymbolPath.hpp
+    GlassComponents/TopEdge.cpp
+    GlassComponents/TopEdge.hpp
     GlassComponents/Wash.cpp
     GlassComponents/Wash.hpp
+    KeyedListModel.cpp
+    KeyedListModel.hpp
+    MainWindowView/MainWindowModel.cpp
+    MainWindowView/MainWindowModel.hpp
     MenuBarView/MenuBarModel.cpp
     MenuBarView/MenuBarModel.hpp
+    MenuBarView/PopoverGround.cpp
+    MenuBarView/PopoverGround.hpp
     MenuBarView/StatusItemPicture.cpp
     MenuBarView/StatusItemPicture.hpp
+    OnboardingView/OnboardingModel.cpp
+    OnboardingView/OnboardingModel.hpp
     PreBreakWarningView/PreBreakWarningModel.cpp
-    PreBreakWarningView/PreBreakWarningModel.hpp)
+    PreBreakWarningView/PreBreakWarningModel.hpp
+    RowListModel.cpp
+    RowListModel.hpp
+    ScreenTimeView/DashboardModel.cpp
+    ScreenTimeView/DashboardModel.hpp
+    SettingsWindowView/PaneModels.cpp
+    SettingsWindowView/PaneModels.hpp
+    SettingsWindowView/SettingsModel.cpp
+    SettingsWindowView/SettingsModel.hpp
+    TasksView/TasksModel.cpp
+    TasksView/TasksModel.hpp
+    UsageDetailView/UsageDetailModel.cpp
+    UsageDetailView/UsageDetailModel.hpp)
 
 # What Qt generates does not keep to our warnings; what we write does.
 set_source_files_properties(${models} PROPERTIES COMPILE_OPTIONS "${KESTRELFEN_WARNINGS}")
@@ -57,7 +193,8 @@ qt_add_library(kestrelfen_ui STATIC)
 set_target_properties(kestrelfen_ui PROPERTIES AUTOMOC ON AUTOMOC_MOC_OPTIONS "-D_GLIBCXX_CONCEPTS")
 target_include_directories(kestrelfen_ui
     PUBLIC ${PROJECT_SOURCE_DIR}/src
-    PRIVATE . BreakOverlayView GlassComponents MenuBarView PreBreakWarningView)
+    PRIVATE . AppListEditor BreakHistoryView BreakOverlayView GlassComponents MainWindowView MenuBarView OnboardingView
+        PreBreakWarningView ScreenTimeView SettingsWindowView TasksView UsageDetailView)
 target_link_libraries(kestrelfen_ui PUBLIC kestrelfen_content Qt6::Quick PRIVATE kestrelfen_sanitizers)
 qt_add_qml_module(kestrelfen_ui
     URI Kestrelfen

@@ -50,7 +50,6 @@ class PreferenceTests(DesktopTest):
     def test_file_that_is_damaged_at_the_start_is_set_aside(self):
         program = self.start("not JSON")
         program.logs("is damaged")
-        program.logs("work 20 min")
         self.assertTrue(program.preference_file.with_name("preferences.damaged-1.json").exists())
 
     def test_file_that_is_damaged_only_while_it_is_written_is_left_alone(self):

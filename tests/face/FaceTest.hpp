@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Scenes.hpp"
 #include "platform/fake/FakePlatform.hpp"
 #include "platform/ports/Compositor.hpp"
 #include "platform/ports/EscapeKey.hpp"
@@ -16,6 +17,9 @@ namespace kestrelfen {
 
 class FakeEscapeKey final : public EscapeKey {
   public:
+    bool takesAll = false;
+    bool takesAllKeys() const override { return takesAll; }
+
     std::unique_ptr<Handle> grab(std::function<void()> pressed) override {
         pressed_ = std::move(pressed);
         struct Grabbed final : Handle {
@@ -37,6 +41,23 @@ class FakeCompositor final : public Compositor {
   public:
     bool blending = true;
     bool isBlending() const override { return blending; }
+};
+
+class FakePanels final : public Panels {
+  public:
+    std::vector<PanelStrip> strips() const override { return all; }
+
+    std::vector<PanelStrip> all;
+};
+
+/// No windows, but what was asked of them.
+class FakeSceneWindows final : public SceneWindows {
+  public:
+    std::vector<std::string> identifiers() const override { return {}; }
+    void bringToFront(std::size_t /*index*/) override {}
+    void open(Scene scene) override { opened.push_back(scene); }
+
+    std::vector<Scene> opened;
 };
 
 /// The windows of the real face over a machine by hand.
@@ -66,7 +87,13 @@ class FaceTest : public testing::Test {
     AppDelegate delegate_{machine_.ports(),
                           StoreConfiguration{folder_ / StoreConfiguration::fileName, {}, {}}, windows_};
     int quits_ = 0;
-    QuickPopover popover_{delegate_.engine(), machine_.ports(), views_, compositor_, [this] { ++quits_; }};
+    FakeSceneWindows scenes_;
+    FakePanels panels_;
+    QuickPopover popover_{{delegate_.engine(), delegate_.screenTime(), delegate_.store(), delegate_.router(),
+                           scenes_, [this] { ++quits_; }},
+                          machine_.ports(),
+                          views_,
+                          {compositor_, panels_}};
 };
 
 } // namespace kestrelfen

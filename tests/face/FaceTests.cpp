@@ -93,11 +93,69 @@ TEST_F(FaceTest, escapeIsHeardOnlyWhileAnOverlayIsUp) {
     EXPECT_FALSE(escapeKey_.isGrabbed());
     run(1200);
     ASSERT_TRUE(escapeKey_.isGrabbed());
+    run(1);
     escapeKey_.press();
     escapeKey_.press();
     settle();
     EXPECT_EQ(delegate_.engine().snoozesOnCurrentBreak(), 1);
     EXPECT_FALSE(escapeKey_.isGrabbed());
+}
+
+TEST_F(FaceTest, escapeInTheFirstHalfSecondWasMeantForSomethingElse) {
+    machine_.preferences.set("doubleEscapeAction", std::string("skip"));
+    run(1200);
+    machine_.clock.advance(0.4999);
+    escapeKey_.press();
+    machine_.clock.advance(0.0001);
+    escapeKey_.press();
+    settle();
+    ASSERT_TRUE(delegate_.engine().state().is(BreakState::Case::onBreak)) << "but one of them counts";
+    escapeKey_.press();
+    settle();
+    EXPECT_EQ(delegate_.engine().breaksSkippedToday(), 1);
+}
+
+TEST_F(FaceTest, escapeIsHeardAfterTheClockWasSetBack) {
+    machine_.preferences.set("doubleEscapeAction", std::string("skip"));
+    run(1200);
+    machine_.clock.advance(-30);
+    escapeKey_.press();
+    escapeKey_.press();
+    settle();
+    EXPECT_EQ(delegate_.engine().breaksSkippedToday(), 1);
+}
+
+TEST_F(FaceTest, noButtonHasTheFocus) {
+    run(1190);
+    EXPECT_EQ(shownWindows().at(0)->activeFocusItem(), nullptr);
+    run(10);
+    EXPECT_EQ(shownWindows().at(0)->activeFocusItem(), nullptr);
+}
+
+TEST_F(FaceTest, aSnoozeOfTheCardSaysWhatItDoesOnceThePointerRestsOnIt) {
+    run(1190);
+    QQuickWindow* const card = shownWindows().at(0);
+    for (const char* const spoken : {"Snooze 1 minute", "Snooze 3 minutes", "Snooze 5 minutes"}) {
+        const QString words = QString::fromUtf8(spoken);
+        QTest::mouseMove(card, centreOf(card, words));
+        settle();
+        EXPECT_FALSE(textsIn(card).contains(words));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return textsIn(card).contains(words); }, 2000)) << spoken;
+    }
+    QTest::mouseMove(card, centreOf(card, QStringLiteral("Start Now")));
+    settle();
+    EXPECT_FALSE(textsIn(card).contains(QStringLiteral("Snooze 5 minutes")));
+}
+
+TEST_F(FaceTest, theCardPulsesUnlessMotionIsReduced) {
+    run(1190);
+    QQuickWindow* const card = shownWindows().at(0);
+    const QImage before = card->grabWindow();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return card->grabWindow() != before; }, 3000));
+    Appearance::current()->setWishes({.highContrast = {}, .reducedMotion = true});
+    const QImage still = card->grabWindow();
+    QTest::qWait(500);
+    EXPECT_EQ(card->grabWindow(), still);
 }
 
 TEST_F(FaceTest, theWarningCardShowsItsTextsAndItsButtonsWork) {

@@ -136,6 +136,17 @@ TEST(FakeTimeFormat, writesTheLocalTimeOfDayByTwentyFourHours) {
     EXPECT_EQ(format.timeWithSeconds(date), "19:05:09");
 }
 
+TEST(FakeTimeFormat, writesTheLocalDayInEnglish) {
+    FakeCalendar calendar("Europe/Berlin");
+    const FakeTimeFormat format(calendar);
+    const Date date = parseIsoTime("2026-03-09T23:05:09Z").value();
+    EXPECT_EQ(format.weekday(date), "Tue");
+    EXPECT_EQ(format.shortDay(date), "Tue 10 Mar");
+    EXPECT_EQ(format.shortDay(date - 86'400.0 * 2), "Sun 8 Mar");
+    calendar.setZone("America/New_York");
+    EXPECT_EQ(format.shortDay(date), "Mon 9 Mar");
+}
+
 TEST(ZoneRule, isReadInEveryForm) {
     const std::int64_t winter = parseIsoTime("2050-01-15T12:00:00Z")->wholeSeconds();
     const std::int64_t summer = parseIsoTime("2050-07-15T12:00:00Z")->wholeSeconds();

@@ -5,6 +5,10 @@
 namespace kestrelfen {
 
 StoreViewTest::StoreViewTest() {
+    openStore();
+}
+
+void StoreViewTest::openStore() {
     const auto mayFail = [this] {
         if (failing_) {
             throw std::runtime_error("no disk");

@@ -11,6 +11,9 @@ class StoreViewTest : public ContentTest {
   protected:
     StoreViewTest();
 
+    /// Opens the store anew, over the same file.
+    void openStore();
+
     /// Runs the main queue and the store's jobs until both are empty.
     void settleAll();
 

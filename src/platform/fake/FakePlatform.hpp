@@ -12,6 +12,7 @@
 #include "platform/fake/FakeInputIdle.hpp"
 #include "platform/fake/FakeInterfaceAppearance.hpp"
 #include "platform/fake/FakeLog.hpp"
+#include "platform/fake/FakeLoginItem.hpp"
 #include "platform/fake/FakeMainQueue.hpp"
 #include "platform/fake/FakeNotificationAuthorization.hpp"
 #include "platform/fake/FakeNotifier.hpp"
@@ -52,6 +53,7 @@ struct FakePlatform {
     FakeNotificationAuthorization notificationAuthorization;
     FakeNotifier notifier;
     FakeSessionLock sessionLock;
+    FakeLoginItem loginItem;
     FakeStatusBarButton statusBarButton;
     FakeStandardOutput standardOutput;
     FakeLog log;
@@ -78,6 +80,7 @@ struct FakePlatform {
                 notificationAuthorization,
                 notifier,
                 sessionLock,
+                loginItem,
                 statusBarButton,
                 standardOutput,
                 log};

@@ -6,7 +6,7 @@ namespace kestrelfen {
 
 class Calendar;
 
-/// Times of day as "14:05" and "14:05:09", whatever the person's habits. Main thread only.
+/// Times as "14:05", "14:05:09", "Mon" and "Mon 9 Mar", whatever the person's habits. Main thread only.
 class FakeTimeFormat final : public TimeFormat {
   public:
     /// The calendar must outlive it.
@@ -14,6 +14,8 @@ class FakeTimeFormat final : public TimeFormat {
 
     std::string shortTime(Date date) const override;
     std::string timeWithSeconds(Date date) const override;
+    std::string weekday(Date date) const override;
+    std::string shortDay(Date date) const override;
 
   private:
     const Calendar& calendar_;

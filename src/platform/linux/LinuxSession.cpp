@@ -2,9 +2,12 @@
 
 #include "platform/linux/MutterInputIdle.hpp"
 #include "platform/linux/WaylandApplications.hpp"
+#include "platform/linux/WaylandDisplays.hpp"
+#include "platform/linux/WaylandEscapeKey.hpp"
 #include "platform/linux/WaylandInputIdle.hpp"
 #include "platform/linux/WaylandWindowList.hpp"
 #include "platform/linux/X11Applications.hpp"
+#include "platform/linux/X11EscapeKey.hpp"
 #include "platform/linux/X11InputIdle.hpp"
 #include "platform/linux/X11WindowList.hpp"
 
@@ -27,6 +30,13 @@ LinuxSession::LinuxSession(const Needs& needs) : needs_(needs) {
     wayland_.emplace();
     if (wayland_->isBroken()) {
         wayland_.reset();
+        return;
+    }
+    if (WaylandLayerGlobals::areOfferedBy(*wayland_)) {
+        outputs_.emplace(*wayland_);
+        layers_.emplace(*wayland_, *outputs_);
+        // The displays are asked for at once, and are to be known by then.
+        wayland_->settle();
     }
 }
 
@@ -51,6 +61,21 @@ LinuxSession::Windows LinuxSession::makeWindows() {
     }
     x11Windows_.emplace(needs_.catalogue);
     return {std::make_unique<X11Applications>(*x11Windows_), std::make_unique<X11WindowList>(*x11Windows_)};
+}
+
+WaylandLayers* LinuxSession::layers() {
+    return layers_ ? &*layers_ : nullptr;
+}
+
+std::unique_ptr<Displays> LinuxSession::makeDisplays() {
+    return outputs_ ? std::make_unique<WaylandDisplays>(*outputs_) : nullptr;
+}
+
+std::unique_ptr<EscapeKey> LinuxSession::makeEscapeKey() {
+    if (layers_) {
+        return std::make_unique<WaylandEscapeKey>(*layers_);
+    }
+    return std::make_unique<X11EscapeKey>(needs_.log);
 }
 
 } // namespace kestrelfen

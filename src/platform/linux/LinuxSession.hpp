@@ -3,9 +3,13 @@
 #include "platform/linux/BusLink.hpp"
 #include "platform/linux/ProgramCatalogue.hpp"
 #include "platform/linux/WaylandConnection.hpp"
+#include "platform/linux/WaylandLayers.hpp"
+#include "platform/linux/WaylandOutputs.hpp"
 #include "platform/linux/WaylandToplevels.hpp"
 #include "platform/linux/X11WindowWatch.hpp"
 #include "platform/ports/Applications.hpp"
+#include "platform/ports/Displays.hpp"
+#include "platform/ports/EscapeKey.hpp"
 #include "platform/ports/InputIdle.hpp"
 #include "platform/ports/Log.hpp"
 #include "platform/ports/WindowList.hpp"
@@ -43,11 +47,22 @@ class LinuxSession {
     /// compositor that does not tell leaves those that run through XWayland.
     Windows makeWindows();
 
+    /// Null where no Wayland compositor lets programs lay something above all windows. Until the end.
+    WaylandLayers* layers();
+
+    /// Null where there are no layers: then the windows go by the displays of their own toolkit.
+    std::unique_ptr<Displays> makeDisplays();
+
+    /// Of the layers, or else of the X server.
+    std::unique_ptr<EscapeKey> makeEscapeKey();
+
   private:
     Needs needs_;
     std::optional<WaylandConnection> wayland_;
     std::optional<WaylandToplevels> toplevels_;
     std::optional<X11WindowWatch> x11Windows_;
+    std::optional<WaylandOutputs> outputs_;
+    std::optional<WaylandLayers> layers_;
 };
 
 } // namespace kestrelfen

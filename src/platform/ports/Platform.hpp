@@ -13,6 +13,7 @@ class Displays;
 class InputIdle;
 class InterfaceAppearance;
 class Log;
+class LoginItem;
 class MainQueue;
 class NotificationAuthorization;
 class Notifier;
@@ -50,6 +51,7 @@ struct Platform {
     NotificationAuthorization& notificationAuthorization;
     Notifier& notifier;
     SessionLock& sessionLock;
+    LoginItem& loginItem;
     StatusBarButton& statusBarButton;
     StandardOutput& standardOutput;
     Log& log;

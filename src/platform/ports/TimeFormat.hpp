@@ -6,7 +6,7 @@
 
 namespace kestrelfen {
 
-/// Times of day as the person writes them, in the person's zone.
+/// Times of day and dates as the person writes them, in the person's zone.
 class TimeFormat {
   public:
     virtual ~TimeFormat() = default;
@@ -16,6 +16,12 @@ class TimeFormat {
 
     /// Hours, minutes and seconds.
     virtual std::string timeWithSeconds(Date date) const = 0;
+
+    /// The weekday, abbreviated.
+    virtual std::string weekday(Date date) const = 0;
+
+    /// The weekday, the day and the month, the words abbreviated, without the year.
+    virtual std::string shortDay(Date date) const = 0;
 };
 
 } // namespace kestrelfen

@@ -45,12 +45,22 @@ std::vector<ProgramWindow> QtActivationPolicy::windows() const {
 }
 
 void QtActivationPolicy::activate() {
+    if (foremost_ && foremost_->isVisible()) {
+        foremost_->requestActivate();
+        return;
+    }
     for (QWindow* const window : QGuiApplication::topLevelWindows()) {
         if (window->isVisible() && isTitled(*window) && !isPanel(*window)) {
             window->requestActivate();
             return;
         }
     }
+}
+
+void QtActivationPolicy::bringForward(QWindow& window) {
+    foremost_ = &window;
+    window.raise();
+    window.requestActivate();
 }
 
 std::unique_ptr<ActivationPolicy::Observation> QtActivationPolicy::observe(ProgramWindowEvent event,

@@ -4,6 +4,8 @@
 #include "platform/ports/ActivationPolicy.hpp"
 
 #include <QObject>
+#include <QPointer>
+#include <QWindow>
 
 namespace kestrelfen {
 
@@ -19,12 +21,17 @@ class QtActivationPolicy final : public QObject, public ActivationPolicy {
     ActivationPolicyKind current() const override { return current_; }
     void set(ActivationPolicyKind policy) override { current_ = policy; }
     void activate() override;
+
+    /// Brings one window to the front; it is the one that `activate` means until another is brought there.
+    void bringForward(QWindow& window);
+
     std::unique_ptr<Observation> observe(ProgramWindowEvent event, std::function<void()> deliver) override;
 
   protected:
     bool eventFilter(QObject* object, QEvent* event) override;
 
   private:
+    QPointer<QWindow> foremost_;
     Observers willClose_;
     Observers didBecomeKey_;
     ActivationPolicyKind current_ = ActivationPolicyKind::accessory;

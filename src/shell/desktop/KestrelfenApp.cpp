@@ -1,13 +1,18 @@
 #include "shell/desktop/KestrelfenApp.hpp"
 
+#include "platform/linux/FreeMemory.hpp"
 #include "platform/linux/SessionEnd.hpp"
 #include "platform/linux/TerminationSignals.hpp"
 #include "shell/AppDelegate.hpp"
 #include "shell/desktop/KestrelfenAppPlatform.hpp"
 #include "shell/desktop/QuickOverlayWindows.hpp"
 #include "shell/desktop/QuickPopover.hpp"
+#include "shell/desktop/QuickSceneWindows.hpp"
+#include "shell/desktop/SceneFaces.hpp"
 
+#include <QDir>
 #include <QGuiApplication>
+#include <QLibraryInfo>
 #include <QQuickWindow>
 
 #include <cstdio>
@@ -17,16 +22,23 @@ namespace kestrelfen {
 
 namespace {
 
-/// Whether Qt will find the display that it needs. The overlays need X11; a Wayland desktop's own X server
-/// does.
+bool canSpeakWayland() {
+    const QDir plugins(QLibraryInfo::path(QLibraryInfo::PluginsPath) + QStringLiteral("/platforms"));
+    return !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") &&
+           !plugins.entryList({QStringLiteral("*wayland*")}, QDir::Files).isEmpty();
+}
+
+/// Whether Qt will find the display that it needs. Windows can place themselves on X11 only, so that a
+/// Wayland desktop's own X server is taken where there is one.
 bool chooseDisplay() {
     if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
         return true;
     }
-    if (XConnection().isBroken()) {
+    const bool hasX11 = !XConnection().isBroken();
+    if (!hasX11 && !canSpeakWayland()) {
         return false;
     }
-    qputenv("QT_QPA_PLATFORM", "xcb");
+    qputenv("QT_QPA_PLATFORM", hasX11 ? "xcb" : "wayland");
     return true;
 }
 
@@ -53,10 +65,16 @@ class KestrelfenApp::Parts {
 
   private:
     KestrelfenAppPlatform machine_;
-    QuickOverlayWindows windows_{machine_.ports(), machine_.views, machine_.escapeKey, machine_.compositor};
+    QuickOverlayWindows windows_{machine_.ports(), machine_.views, *machine_.escapeKey, machine_.compositor};
     AppDelegate delegate_{machine_.ports(), machine_.storeConfiguration(), windows_};
-    QuickPopover popover_{delegate_.engine(), machine_.ports(), machine_.views, machine_.compositor,
-                          [this] { terminate(); }};
+    QuickSceneWindows scenes_{
+        machine_.views,
+        {[this](QWindow& window) { machine_.activationPolicy.bringForward(window); }, returnFreeMemory}};
+    QuickPopover popover_{{delegate_.engine(), delegate_.screenTime(), delegate_.store(), delegate_.router(),
+                           scenes_, [this] { terminate(); }},
+                          machine_.ports(),
+                          machine_.views,
+                          {machine_.compositor, machine_.panels}};
     SessionEnd sessionEnd_{machine_.systemLink, [this](const SessionEnd::Done& done) { terminate(done); }};
     bool isTerminating_ = false;
     bool hasEnded_ = false;
@@ -64,6 +82,13 @@ class KestrelfenApp::Parts {
 
 KestrelfenApp::Parts::Parts() {
     windows_.setEngine(delegate_.engine());
+    setSceneFaces(scenes_, delegate_, {machine_.ports(), machine_.fileWriter, machine_.saveDialog, [this] {
+                                           machine_.openAccessibilitySettings();
+                                       }});
+    // Only what is drawn in memory can be handed over to the desktop.
+    if (QQuickWindow::sceneGraphBackend() == QStringLiteral("software")) {
+        windows_.setLayers(machine_.session.layers());
+    }
 }
 
 void KestrelfenApp::Parts::launch() {
@@ -71,8 +96,9 @@ void KestrelfenApp::Parts::launch() {
     machine_.statusItem.onActivate = [this](std::optional<TrayPoint> place) { popover_.toggle(place); };
     machine_.instance.onShow([this] { popover_.open(std::nullopt); });
     delegate_.applicationDidFinishLaunching();
-    // There is no welcome window yet that would start the timer of a first run.
-    delegate_.engine().start();
+    if (delegate_.needsOnboarding()) {
+        scenes_.open(Scene::main);
+    }
 }
 
 void KestrelfenApp::Parts::terminate(std::function<void()> done) {

@@ -1,5 +1,7 @@
 #include "shell/desktop/KestrelfenAppPlatform.hpp"
 
+#include "platform/linux/AutostartLoginItem.hpp"
+#include "platform/linux/PortalLoginItem.hpp"
 #include "platform/posix/AbsentApplications.hpp"
 #include "platform/posix/AbsentWindowList.hpp"
 #include "platform/posix/StandardFolders.hpp"
@@ -20,6 +22,19 @@ LinuxSession::Windows KestrelfenAppPlatform::orAbsent(LinuxSession::Windows wind
     return windows;
 }
 
+std::unique_ptr<LoginItem> KestrelfenAppPlatform::makeLoginItem() {
+    std::error_code error;
+    if (std::filesystem::exists("/.flatpak-info", error)) {
+        return std::make_unique<PortalLoginItem>(portal, preferences);
+    }
+    return std::make_unique<AutostartLoginItem>(
+        AutostartLoginItem::Places::ofThisSession(configurationFolder()), fileWriter);
+}
+
+std::unique_ptr<Displays> KestrelfenAppPlatform::orQt(std::unique_ptr<Displays> displays) {
+    return displays ? std::move(displays) : std::make_unique<QtDisplays>();
+}
+
 Platform KestrelfenAppPlatform::ports() {
     return {.clock = clock,
             .calendar = calendar,
@@ -30,7 +45,7 @@ Platform KestrelfenAppPlatform::ports() {
             .preferences = preferences,
             .inputIdle = *inputIdle,
             .systemSignals = systemSignals,
-            .displays = displays,
+            .displays = *displays,
             .displayPower = displayPower,
             .applications = *windows.applications,
             .windowList = *windows.list,
@@ -42,9 +57,22 @@ Platform KestrelfenAppPlatform::ports() {
             .notificationAuthorization = notificationAuthorization,
             .notifier = notifier,
             .sessionLock = sessionLock,
+            .loginItem = *loginItem,
             .statusBarButton = statusItem,
             .standardOutput = output,
             .log = log};
+}
+
+void KestrelfenAppPlatform::openAccessibilitySettings() {
+    for (const char* const entry :
+         {"gnome-universal-access-panel", "kcm_access", "xfce4-accessibility-settings",
+          "mate-at-properties", "cinnamon-settings-universal-access"}) {
+        if (programs.isInstalled(entry)) {
+            launcher.launch(entry, [] {});
+            return;
+        }
+    }
+    log.write(LogLevel::error, "Settings", "this desktop has no accessibility settings to open");
 }
 
 StoreConfiguration KestrelfenAppPlatform::storeConfiguration() const {

@@ -11,14 +11,21 @@
 #include "platform/linux/LinuxSessionLock.hpp"
 #include "platform/linux/LinuxSystemSignals.hpp"
 #include "platform/linux/LinuxTrayIcon.hpp"
+#include "platform/linux/PortalDisplayWishes.hpp"
+#include "platform/linux/PortalSaveDialog.hpp"
+#include "platform/linux/ProgramLauncher.hpp"
 #include "platform/linux/PulseAudioProcesses.hpp"
 #include "platform/linux/X11Compositor.hpp"
-#include "platform/linux/X11EscapeKey.hpp"
+#include "platform/linux/X11Panels.hpp"
+#include "platform/ports/LoginItem.hpp"
 #include "platform/ports/PunctualClock.hpp"
+#include "platform/posix/FolderSaveDialog.hpp"
 #include "platform/posix/JsonPreferences.hpp"
 #include "platform/posix/OpenNotificationAuthorization.hpp"
 #include "platform/posix/PosixCalendar.hpp"
 #include "platform/posix/PosixClock.hpp"
+#include "platform/posix/PosixTextFileWriter.hpp"
+#include "platform/posix/StandardFolders.hpp"
 #include "platform/posix/StreamLog.hpp"
 #include "platform/posix/StreamOutput.hpp"
 #include "platform/posix/ThreadExecutor.hpp"
@@ -48,6 +55,9 @@ class KestrelfenAppPlatform {
 
     StoreConfiguration storeConfiguration() const;
 
+    /// Those of the desktop, if it has some that are known here.
+    void openAccessibilitySettings();
+
     StreamLog log{stderr};
     StreamOutput output{stdout};
     QtMainQueue mainQueue;
@@ -68,23 +78,34 @@ class KestrelfenAppPlatform {
     std::unique_ptr<InputIdle> inputIdle{session.makeInputIdle()};
     LinuxSession::Windows windows{orAbsent(session.makeWindows())};
     PulseAudioProcesses audioProcesses{programs};
+    ProgramLauncher launcher{programs};
     AtspiBrowserAccess browserAccess{{sessionLink, *windows.applications, programs, preferences, mainQueue}};
-    QtDisplays displays;
+    PosixTextFileWriter fileWriter;
+    PortalRequests portal{sessionLink};
+    FolderSaveDialog homeFolderSave{homeFolder()};
+    PortalSaveDialog saveDialog{portal, homeFolderSave};
+    std::unique_ptr<LoginItem> loginItem{makeLoginItem()};
+    std::unique_ptr<Displays> displays{orQt(session.makeDisplays())};
     QtProgramFocus programFocus;
     QtActivationPolicy activationPolicy;
     OpenNotificationAuthorization notificationAuthorization;
     QDBusConnection sessionBus{QDBusConnection::sessionBus()};
     DBusSingleInstance instance{sessionBus, log};
     DBusNotifier notifier{sessionBus};
-    X11EscapeKey escapeKey{log};
+    std::unique_ptr<EscapeKey> escapeKey{session.makeEscapeKey()};
     X11Compositor compositor;
+    X11Panels panels;
     std::unique_ptr<TrayIcon> tray{makeLinuxTrayIcon(sessionBus, log)};
     StatusItem statusItem{*tray};
-    QuickViews views;
+    PortalDisplayWishes displayWishes{sessionLink};
+    QuickViews views{displayWishes};
 
   private:
     /// Those of the session, or others that tell nothing.
     static LinuxSession::Windows orAbsent(LinuxSession::Windows windows);
+    /// Those of the session, or else those of Qt.
+    static std::unique_ptr<Displays> orQt(std::unique_ptr<Displays> displays);
+    std::unique_ptr<LoginItem> makeLoginItem();
 
     std::vector<std::unique_ptr<DirectoryWatch>> watches_;
 };

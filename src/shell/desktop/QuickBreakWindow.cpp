@@ -33,11 +33,12 @@ QuickBreakWindow::QuickBreakWindow(QuickOverlayWindows& owner, BreakEngine& engi
     view_->setGeometry(frame);
     view_->show();
     view_->raise();
+    owner_.add(model_);
 }
 
 QuickBreakWindow::~QuickBreakWindow() {
     view_.reset();
-    owner_.forget(this);
+    owner_.forget(model_);
 }
 
 } // namespace kestrelfen

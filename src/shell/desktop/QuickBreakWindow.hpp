@@ -18,8 +18,6 @@ class QuickBreakWindow final : public OverlayWindows::BreakWindow {
                      QuickViews& views, const Display& display);
     ~QuickBreakWindow() override;
 
-    void escape() { model_.escape(); }
-
   private:
     QuickOverlayWindows& owner_;
     BreakOverlayModel model_;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Date.hpp"
 #include "platform/ports/Compositor.hpp"
 #include "platform/ports/EscapeKey.hpp"
 #include "platform/ports/Platform.hpp"
@@ -11,14 +12,18 @@
 namespace kestrelfen {
 
 class BreakEngine;
-class QuickBreakWindow;
+class BreakOverlayModel;
+class LayerSurfaces;
 
-/// The overlay and warning windows as Qt Quick windows that no window manager handles. While an overlay is up
-/// the Escape key goes to the first of them. Main thread only.
+/// The overlay and warning windows: layers of the desktop where it has them, else windows that no window
+/// manager handles. While an overlay is up the Escape key goes to the first of them. Main thread only.
 class QuickOverlayWindows final : public OverlayWindows {
   public:
     QuickOverlayWindows(const Platform& platform, QuickViews& views, EscapeKey& escapeKey,
                         const Compositor& compositor);
+
+    /// Before the first window is made, where the desktop has such; they outlive the windows.
+    void setLayers(LayerSurfaces* layers) { layers_ = layers; }
 
     /// Before the first window is made.
     void setEngine(BreakEngine& engine) { engine_ = &engine; }
@@ -26,18 +31,24 @@ class QuickOverlayWindows final : public OverlayWindows {
     std::unique_ptr<BreakWindow> makeBreakWindow(const Display& display) override;
     std::unique_ptr<WarningPanel> makeWarningPanel() override;
 
-  private:
-    friend class QuickBreakWindow;
+    /// The overlays that are up, each from its coming to its going.
+    void add(BreakOverlayModel& overlay);
+    void forget(const BreakOverlayModel& overlay);
 
+  private:
+    std::unique_ptr<BreakWindow> makeLayer(const Display& display);
+    bool hearsEscape() const;
+    bool hasSettled() const;
     void escapePressed();
-    void forget(const QuickBreakWindow* window);
 
     const Platform platform_;
     QuickViews& views_;
     EscapeKey& escapeKey_;
     const Compositor& compositor_;
     BreakEngine* engine_ = nullptr;
-    std::vector<QuickBreakWindow*> breakWindows_;
+    LayerSurfaces* layers_ = nullptr;
+    std::vector<BreakOverlayModel*> overlays_;
+    Date upSince_;
     std::unique_ptr<EscapeKey::Handle> escapeHandle_;
 };
 

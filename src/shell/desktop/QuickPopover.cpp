@@ -1,44 +1,18 @@
 #include "shell/desktop/QuickPopover.hpp"
 
+#include "core/BreakEngine.hpp"
+#include "shell/desktop/PopoverPlacement.hpp"
 #include "shell/desktop/QuickViews.hpp"
 
-#include <QCursor>
 #include <QGuiApplication>
 #include <QQuickItem>
-#include <QScreen>
-
-#include <algorithm>
-#include <tuple>
 
 namespace kestrelfen {
 
-namespace {
-
-constexpr int margin = 6;
-
-/// The logical position of a physical point, and the screen that it lies on.
-std::pair<QScreen*, QPoint> logicalPlace(TrayPoint place) {
-    for (QScreen* const screen : QGuiApplication::screens()) {
-        const double ratio = screen->devicePixelRatio();
-        const QPoint origin = screen->geometry().topLeft();
-        const QRect physical(origin, (QSizeF(screen->geometry().size()) * ratio).toSize());
-        if (physical.contains(place.x, place.y)) {
-            const QPointF offset(place.x - origin.x(), place.y - origin.y());
-            return {screen, origin + (offset / ratio).toPoint()};
-        }
-    }
-    return {QGuiApplication::primaryScreen(), QPoint(place.x, place.y)};
-}
-
-int within(int low, int value, int high) {
-    return std::max(low, std::min(value, high));
-}
-
-} // namespace
-
-QuickPopover::QuickPopover(BreakEngine& engine, const Platform& platform, QuickViews& views,
-                           const Compositor& compositor, std::function<void()> quit)
-    : engine_(engine), platform_(platform), views_(views), compositor_(compositor), quit_(std::move(quit)) {}
+QuickPopover::QuickPopover(const MenuBarSources& sources, const Platform& platform, QuickViews& views,
+                           const Desktop& desktop)
+    : sources_(sources), platform_(platform), views_(views), desktop_(desktop),
+      activeTask_(platform, sources.engine, sources.store) {}
 
 void QuickPopover::toggle(std::optional<TrayPoint> place) {
     if (view_) {
@@ -54,41 +28,73 @@ void QuickPopover::open(std::optional<TrayPoint> place) {
         view_->requestActivate();
         return;
     }
-    const bool blended = compositor_.isBlending();
-    model_ = std::make_unique<MenuBarModel>(engine_, platform_, quit_);
-    view_ = views_.make(
-        QStringLiteral("MenuBarView.qml"),
-        {{QStringLiteral("model"), QVariant::fromValue(model_.get())}, {QStringLiteral("blended"), blended}});
-    view_->setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint);
+    item_ = place ? std::optional(QPoint(place->x, place->y)) : std::nullopt;
+    isBlended_ = desktop_.compositor.isBlending();
+    activeTask_.load();
+    activeTask_.followBreaks();
+    model_ = std::make_unique<MenuBarModel>(sources_, platform_, activeTask_);
+    view_ = views_.make(QStringLiteral("MenuBarView.qml"),
+                        {{QStringLiteral("model"), QVariant::fromValue(model_.get())},
+                         {QStringLiteral("blended"), isBlended_}});
+    follow();
+    show(sources_.engine.state().is(BreakState::Case::onBreak));
+}
+
+void QuickPopover::follow() {
+    connect(view_->rootObject(), SIGNAL(dismissed()), this, SLOT(close()), Qt::QueuedConnection);
+    connect(model_.get(), &MenuBarModel::left, this, &QuickPopover::close, Qt::QueuedConnection);
+    connect(view_.get(), SIGNAL(activeChanged()), this, SLOT(focusMoved()), Qt::QueuedConnection);
+    connect(view_.get(), &QWindow::heightChanged, this, &QuickPopover::settle);
+    qGuiApp->installEventFilter(this);
+    const bool beganInBreak = sources_.engine.state().is(BreakState::Case::onBreak);
+    state_ = sources_.engine.observeState([this, beganInBreak] {
+        if (!beganInBreak && sources_.engine.state().is(BreakState::Case::onBreak)) {
+            QMetaObject::invokeMethod(this, &QuickPopover::close, Qt::QueuedConnection);
+        }
+    });
+}
+
+/// No window manager puts a window of its own above the overlays.
+void QuickPopover::show(bool isAboveOverlays) {
+    Qt::WindowFlags flags = Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint;
+    flags.setFlag(Qt::BypassWindowManagerHint, isAboveOverlays);
+    view_->setFlags(flags);
     view_->setTitle(QStringLiteral("Kestrelfen"));
     view_->setColor(Qt::transparent);
     view_->setResizeMode(QQuickView::SizeViewToRootObject);
-    if (!blended) {
-        QuickViews::cutToCard(*view_);
-    }
-    connect(view_->rootObject(), SIGNAL(dismissed()), this, SLOT(close()), Qt::QueuedConnection);
-    connect(view_.get(), SIGNAL(activeChanged()), this, SLOT(focusMoved()), Qt::QueuedConnection);
-    view_->setPosition(positionFor(place));
+    settle();
     view_->show();
+    view_->raise();
     view_->requestActivate();
 }
 
-QPoint QuickPopover::positionFor(std::optional<TrayPoint> place) const {
-    const QScreen* const pointed = QGuiApplication::screenAt(QCursor::pos());
-    const QScreen* screen = pointed ? pointed : QGuiApplication::primaryScreen();
-    QPoint point = screen->availableGeometry().topRight();
-    if (place) {
-        std::tie(screen, point) = logicalPlace(*place);
+void QuickPopover::settle() {
+    if (!isBlended_) {
+        QuickViews::cutToCard(*view_);
     }
-    const QRect area = screen->availableGeometry();
-    const bool below = point.y() < area.center().y();
-    const int y = below ? point.y() + margin : point.y() - view_->height() - margin;
-    return {
-        within(area.left() + margin, point.x() - view_->width() / 2, area.right() - view_->width() - margin),
-        within(area.top() + margin, y, area.bottom() - view_->height() - margin)};
+    view_->setPosition(positionOfWindow());
+}
+
+QPoint QuickPopover::positionOfWindow() const {
+    const auto room = [root = view_->rootObject()](const char* side) { return root->property(side).toInt(); };
+    const QSize around(2 * room("sideRoom"), room("topRoom") + room("bottomRoom"));
+    const auto surroundings = PopoverSurroundings::about(item_, desktop_.panels.strips());
+    return popoverPosition(view_->size() - around, surroundings) - QPoint(room("sideRoom"), room("topRoom"));
+}
+
+bool QuickPopover::eventFilter(QObject* object, QEvent* event) {
+    const bool isPressElsewhere =
+        event->type() == QEvent::MouseButtonPress && object->isWindowType() && object != view_.get();
+    if (isPressElsewhere) {
+        QMetaObject::invokeMethod(this, &QuickPopover::close, Qt::QueuedConnection);
+    }
+    return QObject::eventFilter(object, event);
 }
 
 void QuickPopover::close() {
+    qGuiApp->removeEventFilter(this);
+    state_.cancel();
+    activeTask_.unfollowBreaks();
     view_.reset();
     model_.reset();
 }

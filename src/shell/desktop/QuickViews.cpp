@@ -1,6 +1,7 @@
 #include "shell/desktop/QuickViews.hpp"
 
 #include <QPainterPath>
+#include <QQmlComponent>
 #include <QQuickItem>
 #include <QUrl>
 #include <QtQml/QQmlExtensionPlugin>
@@ -8,6 +9,21 @@
 Q_IMPORT_QML_PLUGIN(KestrelfenPlugin)
 
 namespace kestrelfen {
+
+namespace {
+
+QUrl urlOf(const QString& view) {
+    return QUrl(QStringLiteral("qrc:/qt/qml/Kestrelfen/") + view);
+}
+
+} // namespace
+
+QuickViews::QuickViews(DisplayWishes& wishes)
+    : wishes_(&wishes), subscription_(wishes.observe([this] {
+          if (appearance_) {
+              appearance_->setWishes(wishes_->values());
+          }
+      })) {}
 
 void QuickViews::set(InterfaceStyle style) {
     style_ = style;
@@ -21,6 +37,9 @@ void QuickViews::prepare() {
         return;
     }
     appearance_ = std::make_unique<Appearance>(style_);
+    if (wishes_) {
+        appearance_->setWishes(wishes_->values());
+    }
     engine_ = std::make_unique<QQmlEngine>();
     engine_->addImportPath(QStringLiteral("qrc:/qt/qml"));
 }
@@ -29,8 +48,15 @@ std::unique_ptr<QQuickView> QuickViews::make(const QString& view, const QVariant
     prepare();
     auto window = std::make_unique<QQuickView>(engine_.get(), nullptr);
     window->setInitialProperties(properties);
-    window->setSource(QUrl(QStringLiteral("qrc:/qt/qml/Kestrelfen/") + view));
+    window->setSource(urlOf(view));
     return window;
+}
+
+std::unique_ptr<QQuickItem> QuickViews::makeItem(const QString& view, const QVariantMap& properties) {
+    prepare();
+    QQmlComponent component(engine_.get(), urlOf(view));
+    return std::unique_ptr<QQuickItem>(
+        qobject_cast<QQuickItem*>(component.createWithInitialProperties(properties)));
 }
 
 void QuickViews::cutToCard(QQuickView& window) {

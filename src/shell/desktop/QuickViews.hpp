@@ -3,6 +3,7 @@
 #include "ui/GlassComponents/Appearance.hpp"
 
 #include <QQmlEngine>
+#include <QQuickItem>
 #include <QQuickView>
 #include <QString>
 #include <QVariantMap>
@@ -15,11 +16,19 @@ namespace kestrelfen {
 /// memory. Main thread only.
 class QuickViews final : public InterfaceAppearance {
   public:
+    QuickViews() = default;
+
+    /// Whose views follow what the desktop wishes, which must live for longer.
+    explicit QuickViews(DisplayWishes& wishes);
+
     void set(InterfaceStyle style) override;
 
     /// A window over the view of that file name, with its required properties; not yet shown. The windows
     /// must go before this object.
     std::unique_ptr<QQuickView> make(const QString& view, const QVariantMap& properties);
+
+    /// The view alone, for a window of another kind.
+    std::unique_ptr<QQuickItem> makeItem(const QString& view, const QVariantMap& properties);
 
     /// Cuts a window to a card that fills it, for a desktop that cannot blend.
     static void cutToCard(QQuickView& window);
@@ -27,6 +36,8 @@ class QuickViews final : public InterfaceAppearance {
   private:
     void prepare();
 
+    DisplayWishes* wishes_ = nullptr;
+    Subscription subscription_;
     InterfaceStyle style_ = InterfaceStyle::system;
     std::unique_ptr<Appearance> appearance_;
     std::unique_ptr<QQmlEngine> engine_;

@@ -10,10 +10,13 @@ namespace kestrelfen {
 
 namespace {
 
-constexpr std::array<int, 4> pictureSizes{16, 22, 24, 48};
+constexpr std::array pictureSizes{16, 18, 20, 22, 24, 32, 44, 48, 64};
 
-TrayPicture pictureOf(std::string_view symbol, int size) {
-    const QImage image = statusItemPicture(symbol, size).convertToFormat(QImage::Format_ARGB32);
+/// As wide as any text of the item.
+constexpr char widestText[] = "00:00";
+
+TrayPicture pictureOf(std::string_view symbol, int size, PanelShade shade) {
+    const QImage image = statusItemPicture(symbol, size, shade).convertToFormat(QImage::Format_ARGB32);
     TrayPicture picture{size, {}};
     for (int y = 0; y < image.height(); ++y) {
         const auto* const line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
@@ -22,11 +25,11 @@ TrayPicture pictureOf(std::string_view symbol, int size) {
     return picture;
 }
 
-std::vector<TrayPicture> picturesOf(std::string_view symbol) {
+std::vector<TrayPicture> picturesOf(std::string_view symbol, PanelShade shade) {
     std::vector<TrayPicture> pictures;
     pictures.reserve(pictureSizes.size());
     for (const int size : pictureSizes) {
-        pictures.push_back(pictureOf(symbol, size));
+        pictures.push_back(pictureOf(symbol, size, shade));
     }
     return pictures;
 }
@@ -59,8 +62,17 @@ void StatusItem::refresh() {
     const StatusItemContent content = StatusItemContent::of(*engine_);
     if (symbol_ != content.symbol) {
         symbol_ = content.symbol;
-        tray_.show({picturesOf(content.symbol), "Kestrelfen",
-                    [engine = engine_] { return StatusItemContent::of(*engine).tooltip; }});
+        tray_.show({.pictures = picturesOf(content.symbol, PanelShade::unknown),
+                    .title = "Kestrelfen",
+                    .tooltip = [engine = engine_] { return StatusItemContent::of(*engine).tooltip; },
+                    .onLight = picturesOf(content.symbol, PanelShade::light),
+                    .onDark = picturesOf(content.symbol, PanelShade::dark),
+                    .label = [engine = engine_] { return StatusItemContent::of(*engine).text; },
+                    .labelGuide = widestText});
+    }
+    if (text_ != content.text) {
+        text_ = content.text;
+        tray_.labelChanged();
     }
     if (const std::string now = announcement(*engine_); now != announced_) {
         announced_ = now;

@@ -34,6 +34,7 @@ class StatusItem final : public StatusBarButton {
     BreakEngine* engine_ = nullptr;
     std::unique_ptr<EngineFollower> follower_;
     std::optional<std::string_view> symbol_;
+    std::string text_;
     std::string announced_;
     bool answersRightClicks_ = false;
 };

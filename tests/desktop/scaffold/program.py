@@ -39,9 +39,10 @@ class Program:
         self.pid = self._process.pid
 
     def write_preferences(self, preferences):
-        """By hand: text as it is, anything else as JSON."""
+        """By hand: text as it is, anything else as JSON. The welcome of the first run is over unless it says otherwise."""
         self.preference_file.parent.mkdir(parents=True, exist_ok=True)
-        text = preferences if isinstance(preferences, str) else json.dumps(preferences, indent=2)
+        text = preferences if isinstance(preferences, str) else json.dumps(
+            {"hasCompletedOnboarding": True} | preferences, indent=2)
         self.preference_file.write_text(text, encoding="utf-8")
 
     @property
