@@ -10,16 +10,23 @@ namespace kestrelfen {
 
 namespace {
 
+/// Null for a day that has none, also where the zone left that date out.
+const Week::Bar* barOf(CivilDay day, const Week& week, const Calendar& calendar) {
+    const Date start = calendar.startOfDay(day);
+    return calendar.civilTime(start).day == day ? week.barOf(start) : nullptr;
+}
+
 void hover(Simulation& simulation, Arguments& arguments) {
     const std::string word = arguments.take("DAY or none");
     const auto day = word == "none" ? std::nullopt : std::optional(dayOf(word));
     arguments.end();
     withDashboard(simulation, [&](Dashboard& dashboard) {
-        const auto start = day ? std::optional(simulation.world().calendar.startOfDay(*day)) : std::nullopt;
-        if (start && !dashboard.lastSevenDays().barOf(*start)) {
+        const Week week = dashboard.lastSevenDays();
+        const Week::Bar* const bar = day ? barOf(*day, week, simulation.world().calendar) : nullptr;
+        if (day && !bar) {
             notAvailable();
         } else {
-            dashboard.setHoveredDay(start);
+            dashboard.setHoveredDay(bar ? std::optional(bar->summary.startOfDay) : std::nullopt);
         }
     });
 }

@@ -196,10 +196,16 @@ target_include_directories(kestrelfen_ui
     PRIVATE . AppListEditor BreakHistoryView BreakOverlayView GlassComponents MainWindowView MenuBarView OnboardingView
         PreBreakWarningView ScreenTimeView SettingsWindowView TasksView UsageDetailView)
 target_link_libraries(kestrelfen_ui PUBLIC kestrelfen_content Qt6::Quick PRIVATE kestrelfen_sanitizers)
+# Under sanitizers the views are read as they stand: compiling them ahead takes long and shows nothing more.
+set(cached)
+if(KESTRELFEN_SANITIZE)
+    set(cached NO_CACHEGEN)
+endif()
 qt_add_qml_module(kestrelfen_ui
     URI Kestrelfen
     VERSION 1.0
     RESOURCE_PREFIX /qt/qml
+    ${cached}
     DEPENDENCIES QtQuick
     QML_FILES ${views}
     OUTPUT_DIRECTORY ${CMAKE_CURRENT_BINARY_DIR}/Kestrelfen

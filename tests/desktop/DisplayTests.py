@@ -49,6 +49,7 @@ class DisplayTests(DesktopTest):
         self.addCleanup(self.desktop.plug_right)
         self.desktop.unplug_right()
         self.wait_for_overlays(LEFT)
+        self.wait_until_escape_counts()
         self.hands.press("Escape", "Escape")
         program.logs("break skipped")
         self.wait_for_no_overlay()

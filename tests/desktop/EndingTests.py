@@ -36,6 +36,7 @@ class EndingTests(DesktopTest):
     def test_snooze_of_the_last_moment_is_kept(self):
         program = self.start(QUICK | {"doubleEscapeAction": "snooze"})
         self.wait_for_overlays()
+        self.wait_until_escape_counts()
         self.hands.press("Escape", "Escape")
         program.logs("snoozed ")
         self.assertEqual(self.own_end(program), 0)

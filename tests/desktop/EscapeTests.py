@@ -17,6 +17,7 @@ class EscapeTests(DesktopTest):
         self.hands.press("Escape", "a")
         self.recorder.receives("\x1ba")
         self.wait_for_overlays()
+        self.wait_until_escape_counts()
         return program
 
     def assert_escape_reaches_the_terminal_again(self):

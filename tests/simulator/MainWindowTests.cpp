@@ -104,6 +104,14 @@ TEST(MainWindow, HoveredDayIsKeptAsItsFirstInstant) {
               std::string(unavailable) + unavailable);
 }
 
+TEST(MainWindow, DateThatTheZoneLeftOutHasNoBar) {
+    EXPECT_EQ(shown("zone Pacific/Apia\nclock 2011-12-31T20:00:00Z\n"
+                    "pref hasCompletedOnboarding bool true\nlaunch\n",
+                    "expect score bars.count 6\nhover 2011-12-29\nhover 2011-12-30\n"
+                    "expect score chartSubtitle \"Thu 29 Dec · 0 s · 0 breaks\"\n"),
+              unavailable);
+}
+
 TEST(MainWindow, PendingDetailIsTakenByTheDashboardOnce) {
     expectAllHold(launched, "choose usageSource websites\ngo usageDetail\n"
                             "expect windows pendingUsageDetail apps\n"

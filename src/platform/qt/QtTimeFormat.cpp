@@ -4,6 +4,7 @@
 
 #include <QDate>
 #include <QLocale>
+#include <QRegularExpression>
 #include <QTime>
 
 namespace kestrelfen {
@@ -29,7 +30,10 @@ bool putsMonthFirst(const QLocale& locale) {
 } // namespace
 
 std::string QtTimeFormat::shortTime(Date date) const {
-    return QLocale::system().toString(timeOf(date, calendar_), QLocale::ShortFormat).toStdString();
+    // Some locales have no format without the seconds.
+    static const QRegularExpression seconds(QStringLiteral("[:.]ss?"));
+    const QString format = QLocale::system().timeFormat(QLocale::ShortFormat).remove(seconds);
+    return QLocale::system().toString(timeOf(date, calendar_), format).toStdString();
 }
 
 std::string QtTimeFormat::timeWithSeconds(Date date) const {

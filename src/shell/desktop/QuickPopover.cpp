@@ -59,7 +59,7 @@ void QuickPopover::show(bool isAboveOverlays) {
     Qt::WindowFlags flags = Qt::Tool | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint;
     flags.setFlag(Qt::BypassWindowManagerHint, isAboveOverlays);
     view_->setFlags(flags);
-    view_->setTitle(QStringLiteral("Kestrelfen"));
+    view_->setTitle(QStringLiteral("Kestrelfen popover"));
     view_->setColor(Qt::transparent);
     view_->setResizeMode(QQuickView::SizeViewToRootObject);
     settle();

@@ -7,16 +7,15 @@ Item {
 
     required property MainWindowModel model
     readonly property bool showsOnboarding: model.showsOnboarding
-    readonly property bool hasWelcome: showsOnboarding && model.onboarding !== null
 
     function showContent() {
-        if (hasWelcome) {
-            content.setSource("OnboardingView.qml", {
-                model: model.onboarding
-            });
-        } else if (!showsOnboarding) {
+        if (!model.showsOnboarding) {
             content.setSource("MainTabs.qml", {
                 model: model
+            });
+        } else if (model.onboarding !== null) {
+            content.setSource("OnboardingView.qml", {
+                model: model.onboarding
             });
         }
     }

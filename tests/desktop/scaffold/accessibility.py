@@ -100,7 +100,11 @@ class Accessibility:
 
     def button(self, pid, name):
         """Where to click on the button of that name, or nothing."""
+        return self.control(pid, name, BUTTON)
+
+    def control(self, pid, name, role):
+        """Where to click on what has that name and role, or nothing."""
         try:
-            return next((node.centre for node in self.nodes(pid) if node.name == name and node.role == BUTTON), None)
+            return next((node.centre for node in self.nodes(pid) if node.name == name and node.role == role), None)
         except dbus.DBusException:
             return None

@@ -1,5 +1,6 @@
 """The base of the tests of a desktop."""
 
+import time
 import unittest
 
 from scaffold.desktop import LEFT, RIGHT, Desktop
@@ -44,6 +45,10 @@ class DesktopTest(unittest.TestCase):
     def _overlays_over(self, frames):
         overlays = self.windows.overlays()
         return overlays if [window.frame for window in overlays] == frames else None
+
+    def wait_until_escape_counts(self):
+        """A new overlay is deaf for half a second, so that nobody ends a break by typing on."""
+        time.sleep(0.7)
 
     def wait_for_no_overlay(self):
         until(lambda: not self.windows.overlays(), "no overlay", 10.0)

@@ -10,7 +10,9 @@ TOP_INDENT = 5
 
 BREAK = "Kestrelfen break"
 WARNING = "Kestrelfen warning"
-POPOVER = "Kestrelfen"
+POPOVER = "Kestrelfen popover"
+MAIN = "Kestrelfen"
+SETTINGS = "Settings"
 
 
 class Window(NamedTuple):
@@ -72,8 +74,14 @@ class Windows:
         return next(iter(self.named(WARNING)), None)
 
     def popover(self):
+        return next(iter(self.named(POPOVER)), None)
+
+    def main_windows(self):
         """The tray's item bears the same name, but is far smaller."""
-        return next((window for window in self.named(POPOVER) if window.width > 200), None)
+        return [window for window in self.named(MAIN) if window.width > 200]
+
+    def settings(self):
+        return next(iter(self.named(SETTINGS)), None)
 
     def stacking(self):
         """The numbers of the direct children of the root, from the top to the bottom."""
