@@ -82,6 +82,7 @@ Platform BenchmarkMachine::choosePorts(Ports ports) {
             byHand.notificationAuthorization,
             byHand.notifier,
             byHand.sessionLock,
+            byHand.loginItem,
             byHand.statusBarButton,
             byHand.standardOutput,
             byHand.log};

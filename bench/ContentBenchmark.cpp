@@ -31,7 +31,7 @@ void askStatusItem(BenchmarkMachine& machine) {
 }
 
 void askMenuBar(BenchmarkMachine& machine) {
-    benchmark::DoNotOptimize(MenuBarContent::of(machine.engine()));
+    benchmark::DoNotOptimize(MenuBarContent::of(machine.engine(), 3600, std::nullopt));
 }
 
 void askWarning(BenchmarkMachine& machine) {

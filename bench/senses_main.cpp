@@ -112,6 +112,7 @@ class SensesBench {
                      ports.notificationAuthorization,
                      ports.notifier,
                      ports.sessionLock,
+                     ports.loginItem,
                      ports.statusBarButton,
                      ports.standardOutput,
                      ports.log},

@@ -16,7 +16,7 @@ class PopoverTest : public FaceTest {
         popover_.open(std::nullopt);
         settle();
         for (QQuickWindow* const window : shownWindows()) {
-            if (window->title() == QStringLiteral("Kestrelfen")) {
+            if (window->title() == QStringLiteral("Kestrelfen popover")) {
                 return window;
             }
         }

@@ -152,17 +152,19 @@ TEST_F(JsonPreferencesReload, whatAnObserverOfAReloadSetsIsWrittenToo) {
 
 } // namespace
 
-/// Writes the file from outside, as an editor does, in the very moment in which a draft of the new one lies there.
+/// Writes the file from outside, as an editor does, in the very moment in which a draft of the new one lies
+/// there.
 class EditorDuringWriting {
   public:
     EditorDuringWriting(std::filesystem::path file, std::string content)
-        : thread_([this, draft = file.parent_path() / ("." + file.filename().string() + ".new"), file, content] {
-              while (!isOver_ && !std::filesystem::exists(draft)) {
-              }
-              if (!isOver_) {
-                  writeInPlace(file, content);
-              }
-          }) {}
+        : thread_(
+              [this, draft = file.parent_path() / ("." + file.filename().string() + ".new"), file, content] {
+                  while (!isOver_ && !std::filesystem::exists(draft)) {
+                  }
+                  if (!isOver_) {
+                      writeInPlace(file, content);
+                  }
+              }) {}
 
     ~EditorDuringWriting() {
         isOver_ = true;

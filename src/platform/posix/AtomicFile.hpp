@@ -21,8 +21,8 @@ class AtomicFile {
     /// folders that are made for it are the person's alone. After an error everything is as before.
     std::error_code replace(std::string_view content) const;
 
-    /// The same, but asks `mayReplace` once the new content is safe on the disk, which takes its time; where the
-    /// answer is false nothing is replaced and the error is std::errc::operation_canceled.
+    /// The same, but asks `mayReplace` once the new content is safe on the disk, which takes its time; where
+    /// the answer is false nothing is replaced and the error is std::errc::operation_canceled.
     std::error_code replaceIf(std::string_view content, const std::function<bool()>& mayReplace) const;
 
   private:

@@ -65,8 +65,8 @@ Platform KestrelfenAppPlatform::ports() {
 
 void KestrelfenAppPlatform::openAccessibilitySettings() {
     for (const char* const entry :
-         {"gnome-universal-access-panel", "kcm_access", "xfce4-accessibility-settings",
-          "mate-at-properties", "cinnamon-settings-universal-access"}) {
+         {"gnome-universal-access-panel", "kcm_access", "xfce4-accessibility-settings", "mate-at-properties",
+          "cinnamon-settings-universal-access"}) {
         if (programs.isInstalled(entry)) {
             launcher.launch(entry, [] {});
             return;

@@ -6,6 +6,7 @@ Item {
     id: view
 
     required property MainWindowModel model
+    readonly property var application: Qt.application
     readonly property bool showsOnboarding: model.showsOnboarding
 
     function showContent() {
@@ -23,7 +24,7 @@ Item {
     implicitWidth: 1040
     implicitHeight: 660
 
-    LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.enabled: application.layoutDirection === Qt.RightToLeft
     LayoutMirroring.childrenInherit: true
 
     Accessible.role: Accessible.Pane

@@ -6,9 +6,10 @@ Item {
     id: view
 
     required property SettingsModel model
+    readonly property var application: Qt.application
     readonly property var deletion: model.deletionQuestion
 
-    LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.enabled: application.layoutDirection === Qt.RightToLeft
     LayoutMirroring.childrenInherit: true
 
     Backdrop {
