@@ -17,6 +17,7 @@ constexpr std::array replacements{
     Replacement{"Start the timer from the menu bar.", "Start the timer from the tray."},
     Replacement{"SMAppService · also in the menu bar", "Starts with your session, in the tray"},
     Replacement{"Registered through SMAppService", "Starts with your session, in the tray"},
+    Replacement{"Menu bar snooze button", "Tray snooze button"},
     Replacement{"Lock my Mac when a break starts", "Lock my computer when a break starts"},
     Replacement{"Apps that only run while capturing — not ones that idle in the menu bar",
                 "Apps that only run while capturing — not ones that idle in the tray"},

@@ -157,7 +157,7 @@ TEST_F(PopoverTest, inABreakItLiesAboveTheOverlaysAndAPressOnOneClosesIt) {
     const auto windows = shownWindows();
     ASSERT_EQ(windows.size(), 2U);
     QQuickWindow* const popover = windows[1];
-    EXPECT_EQ(popover->title(), QStringLiteral("Kestrelfen"));
+    EXPECT_EQ(popover->title(), QStringLiteral("Kestrelfen popover"));
     EXPECT_TRUE(popover->flags().testFlag(Qt::BypassWindowManagerHint));
     QTest::mouseClick(windows[0], Qt::LeftButton, Qt::NoModifier, QPoint(20, 20));
     settle();

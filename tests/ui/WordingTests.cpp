@@ -11,7 +11,7 @@ TEST_P(SentenceOfTheMac, isShownInOtherWords) {
     const std::string_view shown = worded(GetParam());
     EXPECT_NE(shown, GetParam());
     for (const std::string_view name :
-         {"Mac", "macOS", "SMAppService", "SwiftData", "System Settings", "menu bar"}) {
+         {"Mac", "macOS", "SMAppService", "SwiftData", "System Settings", "menu bar", "Menu bar"}) {
         EXPECT_EQ(shown.find(name), std::string_view::npos) << shown;
     }
 }
@@ -21,7 +21,7 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         "The Mac slept. Resumes on wake.", "Start the timer from the menu bar.",
         "SMAppService · also in the menu bar", "Registered through SMAppService",
-        "Lock my Mac when a break starts",
+        "Lock my Mac when a break starts", "Menu bar snooze button",
         "Apps that only run while capturing — not ones that idle in the menu bar",
         "This Mac won't report per-app audio, so calls and video fall back to whichever app is frontmost.",
         "Detected from microphone and audio activity, running apps, and the frontmost app. No new "
