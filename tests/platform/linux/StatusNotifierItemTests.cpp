@@ -128,12 +128,14 @@ TEST_F(StatusNotifierItemTest, TellsOnlyOfWhatHasChanged) {
     item_.show(content(opaqueGreen));
     EXPECT_EQ(host.next()["name"].toString(), "NewIcon");
     EXPECT_EQ(host.next()["name"].toString(), "NewToolTip");
+    EXPECT_EQ(host.next()["name"].toString(), "XAyatanaNewLabel");
 
     TrayContent renamed = content(opaqueGreen);
     renamed.title = "Paused";
     item_.show(renamed);
     EXPECT_EQ(host.next()["name"].toString(), "NewTitle");
     EXPECT_EQ(host.next()["name"].toString(), "NewToolTip");
+    EXPECT_EQ(host.next()["name"].toString(), "XAyatanaNewLabel");
 }
 
 TEST_F(StatusNotifierItemTest, IsNotShownByAWatcherWithoutAHost) {
