@@ -3,6 +3,7 @@
 import unittest
 
 from scaffold import DesktopTest, until
+from scaffold.accessibility import LABEL
 from scaffold.program import QUICK
 
 
@@ -48,7 +49,7 @@ class SnoozeTests(DesktopTest):
     def test_click_on_a_skip_that_must_be_waited_for_does_nothing(self):
         program = self.start(QUICK | {"enforcementLevel": "balanced"})
         self.wait_for_overlays()
-        self.click_button(program, "Skip in 5")
+        self.hands.click(until(lambda: self.tree.control(program.pid, "Skip in 5", LABEL), "the wait label"))
         self.wait_until_told(program, "Skip in 3")
         self.assertEqual(program.count("break skipped"), 0)
         self.assertEqual(len(self.windows.overlays()), 2)

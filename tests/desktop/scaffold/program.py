@@ -11,6 +11,9 @@ from scaffold.waiting import until
 
 BINARY = os.environ.get("KESTRELFEN", "")
 
+#: Beneath whatever a test chooses.
+BASIS = {"hasCompletedOnboarding": True, "dailySummaryEnabled": False}
+
 #: Breaks that come soon, and nothing that pauses them.
 QUICK = {"idleMode": "off", "enforcementLevel": "casual", "workIntervalSeconds": 2.0,
          "preBreakWarningLeadSeconds": 0.5, "breakDurationSeconds": 20.0}
@@ -39,10 +42,11 @@ class Program:
         self.pid = self._process.pid
 
     def write_preferences(self, preferences):
-        """By hand: text as it is, anything else as JSON. The welcome of the first run is over unless it says otherwise."""
+        """By hand: text as it is, anything else as JSON. Unless it says otherwise, the welcome of the first run is over,
+        and no summary of the day is posted, which would depend on the hour of the test."""
         self.preference_file.parent.mkdir(parents=True, exist_ok=True)
         text = preferences if isinstance(preferences, str) else json.dumps(
-            {"hasCompletedOnboarding": True} | preferences, indent=2)
+            BASIS | preferences, indent=2)
         self.preference_file.write_text(text, encoding="utf-8")
 
     @property
