@@ -4,7 +4,6 @@
 
 #include <QDate>
 #include <QLocale>
-#include <QRegularExpression>
 #include <QTime>
 
 namespace kestrelfen {
@@ -30,9 +29,11 @@ bool putsMonthFirst(const QLocale& locale) {
 } // namespace
 
 std::string QtTimeFormat::shortTime(Date date) const {
+    QString format = QLocale::system().timeFormat(QLocale::ShortFormat);
     // Some locales have no format without the seconds.
-    static const QRegularExpression seconds(QStringLiteral("[:.]ss?"));
-    const QString format = QLocale::system().timeFormat(QLocale::ShortFormat).remove(seconds);
+    for (const char* const seconds : {":ss", ".ss", ":s", ".s"}) {
+        format.remove(QLatin1String(seconds));
+    }
     return QLocale::system().toString(timeOf(date, calendar_), format).toStdString();
 }
 

@@ -22,6 +22,9 @@ namespace kestrelfen {
 
 namespace {
 
+/// After so long a start is over, with all that only a start needs.
+constexpr double settlingSeconds = 3;
+
 bool canSpeakWayland() {
     const QDir plugins(QLibraryInfo::path(QLibraryInfo::PluginsPath) + QStringLiteral("/platforms"));
     return !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") &&
@@ -67,9 +70,12 @@ class KestrelfenApp::Parts {
     KestrelfenAppPlatform machine_;
     QuickOverlayWindows windows_{machine_.ports(), machine_.views, *machine_.escapeKey, machine_.compositor};
     AppDelegate delegate_{machine_.ports(), machine_.storeConfiguration(), windows_};
-    QuickSceneWindows scenes_{
-        machine_.views,
-        {[this](QWindow& window) { machine_.activationPolicy.bringForward(window); }, returnFreeMemory}};
+    QuickSceneWindows scenes_{machine_.views,
+                              {[this](QWindow& window) { machine_.activationPolicy.bringForward(window); },
+                               [] {
+                                   returnFreeMemory();
+                                   releaseCode();
+                               }}};
     QuickPopover popover_{{delegate_.engine(), delegate_.screenTime(), delegate_.store(), delegate_.router(),
                            scenes_, [this] { terminate(); }},
                           machine_.ports(),
@@ -99,6 +105,7 @@ void KestrelfenApp::Parts::launch() {
     if (delegate_.needsOnboarding()) {
         scenes_.open(Scene::main);
     }
+    machine_.mainQueue.postAfter(settlingSeconds, releaseCode);
 }
 
 void KestrelfenApp::Parts::terminate(std::function<void()> done) {
