@@ -13,6 +13,12 @@ class LayerTest : public FaceTest {
   protected:
     LayerTest() { windows_.setLayers(&layers_); }
 
+    /// What is still up goes before the desktop that it is up on.
+    void TearDown() override {
+        delegate_.overlays().tearDownBreakWindows();
+        delegate_.overlays().hideWarning();
+    }
+
     FakeLayerSurfaces::Shown& layer(std::size_t index = 0) { return *layers_.shown.at(index); }
 
     void configureAll(double scale = 1) {
