@@ -21,15 +21,24 @@ void returnFreeMemory() {
 }
 
 void releaseCode() {
-    std::ifstream maps("/proc/self/maps");
+    std::ifstream maps("/proc/self/smaps");
+    std::uintptr_t begin = 0;
+    std::uintptr_t end = 0;
+    bool isCodeOfFile = false;
     for (std::string line; std::getline(maps, line);) {
-        std::uintptr_t begin = 0;
-        std::uintptr_t end = 0;
+        std::uintptr_t from = 0;
+        std::uintptr_t to = 0;
         char access[5] = "";
-        const bool isRead =
-            std::sscanf(line.c_str(), "%" SCNxPTR "-%" SCNxPTR " %4s", &begin, &end, access) == 3;
-        // Code of a file is never written, so that nothing can be lost with it.
-        if (isRead && std::strcmp(access, "r-xp") == 0 && line.find('/') != std::string::npos) {
+        if (std::sscanf(line.c_str(), "%" SCNxPTR "-%" SCNxPTR " %4s", &from, &to, access) == 3) {
+            begin = from;
+            end = to;
+            // What is compiled while the program runs lies in no file.
+            isCodeOfFile = std::strcmp(access, "r-xp") == 0 && line.find(" /") != std::string::npos &&
+                           line.find("memfd:") == std::string::npos &&
+                           line.find("(deleted)") == std::string::npos;
+        } else if (isCodeOfFile && line.starts_with("Private_Dirty:") &&
+                   line.find(" 0 kB") != std::string::npos) {
+            // Nothing was ever written there, so that nothing can be lost.
             ::madvise(reinterpret_cast<void*>(begin), end - begin, MADV_DONTNEED);
         }
     }
