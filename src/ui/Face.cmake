@@ -25,6 +25,7 @@ set(views
     GlassComponents/GlassButton.qml
     GlassComponents/GlassSurface.qml
     GlassComponents/GlassToggle.qml
+    GlassComponents/HoverTip.qml
     GlassComponents/HudCard.qml
     GlassComponents/Label.qml
     GlassComponents/ModalVeil.qml
@@ -72,7 +73,6 @@ set(views
     OnboardingView/PresetCards.qml
     OnboardingView/PromiseRow.qml
     OnboardingView/WelcomePage.qml
-    PreBreakWarningView/HoverTip.qml
     PreBreakWarningView/PreBreakWarningView.qml
     PreBreakWarningView/PulsingDisc.qml
     PreBreakWarningView/WarningButtons.qml
@@ -129,10 +129,14 @@ set(models
     GlassComponents/Appearance.hpp
     GlassComponents/CardShadow.cpp
     GlassComponents/CardShadow.hpp
+    GlassComponents/Breath.cpp
+    GlassComponents/Breath.hpp
     GlassComponents/Halo.cpp
     GlassComponents/Halo.hpp
     GlassComponents/ModalLayer.cpp
     GlassComponents/ModalLayer.hpp
+    GlassComponents/Outline.cpp
+    GlassComponents/Outline.hpp
     GlassComponents/PictureItem.cpp
     GlassComponents/PictureItem.hpp
     GlassComponents/RingArc.cpp
@@ -157,8 +161,6 @@ set(models
     MainWindowView/MainWindowModel.hpp
     MenuBarView/MenuBarModel.cpp
     MenuBarView/MenuBarModel.hpp
-    MenuBarView/PopoverGround.cpp
-    MenuBarView/PopoverGround.hpp
     MenuBarView/StatusItemPicture.cpp
     MenuBarView/StatusItemPicture.hpp
     OnboardingView/OnboardingModel.cpp
@@ -196,9 +198,9 @@ target_include_directories(kestrelfen_ui
     PRIVATE . AppListEditor BreakHistoryView BreakOverlayView GlassComponents MainWindowView MenuBarView OnboardingView
         PreBreakWarningView ScreenTimeView SettingsWindowView TasksView UsageDetailView)
 target_link_libraries(kestrelfen_ui PUBLIC kestrelfen_content Qt6::Quick PRIVATE kestrelfen_sanitizers)
-# Under sanitizers the views are read as they stand: compiling them ahead takes long and shows nothing more.
+# Where speed is not the point the views are read as they stand: compiling them ahead takes long and shows nothing more.
 set(cached)
-if(KESTRELFEN_SANITIZE)
+if(KESTRELFEN_SANITIZE OR CMAKE_BUILD_TYPE STREQUAL "Debug")
     set(cached NO_CACHEGEN)
 endif()
 qt_add_qml_module(kestrelfen_ui

@@ -73,6 +73,12 @@ QString FaceTest::textsIn(QQuickWindow* window) {
     return texts.join(QLatin1Char('\n'));
 }
 
+std::vector<QQuickItem*> FaceTest::itemsIn(QQuickWindow* window) {
+    std::vector<QQuickItem*> items;
+    walk(window->contentItem(), [&items](QQuickItem* item) { items.push_back(item); });
+    return items;
+}
+
 QPoint FaceTest::centreOf(QQuickWindow* window, const QString& spokenLabel) {
     QPoint centre(-1, -1);
     walk(window->contentItem(), [&](const QQuickItem* item) {

@@ -75,6 +75,9 @@ class FaceTest : public testing::Test {
     /// Every text that is shown in `window`, joined by line feeds.
     static QString textsIn(QQuickWindow* window);
 
+    /// Everything that is shown in `window`.
+    static std::vector<QQuickItem*> itemsIn(QQuickWindow* window);
+
     static QPoint centreOf(QQuickWindow* window, const QString& spokenLabel);
     void click(QQuickWindow* window, const QString& spokenLabel);
 

@@ -2,9 +2,15 @@
 
 #include <QTest>
 
+#include <algorithm>
+
 namespace kestrelfen {
 
 namespace {
+
+void connectFrames(const QQuickWindow* window, int& frames) {
+    QObject::connect(window, &QQuickWindow::afterRendering, window, [&frames] { ++frames; });
+}
 
 TEST_F(FaceTest, aBreakCoversEachDisplayWithAWindowThatTakesNoFocus) {
     machine_.displays.setCount(2);
@@ -37,12 +43,44 @@ TEST_F(FaceTest, aLongBreakShowsItsCycle) {
     run(1220 + 1200);
     run(1);
     const QString texts = textsIn(shownWindows().at(0));
-    for (const char* const text : {"LONG BREAK · EVERY 4TH CYCLE", "Stand up and walk",
+    for (const char* const text : {"Long break · every 4th cycle", "Stand up and walk",
                                    "2 work intervals since the last long break", "Skip This Break"}) {
         EXPECT_TRUE(texts.contains(QString::fromUtf8(text))) << text << " is not among\n"
                                                              << texts.toStdString();
     }
     EXPECT_FALSE(texts.contains(QStringLiteral("covering")));
+    const auto dots = [] {
+        const auto items = itemsIn(shownWindows().at(0));
+        return std::count_if(items.begin(), items.end(),
+                             [](const QQuickItem* item) { return item->property("isLast").isValid(); });
+    };
+    EXPECT_EQ(dots(), 2);
+    click(shownWindows().at(0), QStringLiteral("Skip"));
+    EXPECT_EQ(delegate_.engine().breaksSkippedToday(), 1);
+}
+
+TEST_F(FaceTest, theCardsLineLiesOnItsFill) {
+    run(1190);
+    QQuickWindow* const card = shownWindows().at(0);
+    const QColor line = card->grabWindow().pixelColor(18, card->height() / 2);
+    EXPECT_GT(line.lightness(), 180) << "the desktop would shine through";
+    EXPECT_LT(line.lightness(), 225);
+}
+
+TEST_F(FaceTest, noFrameIsDrawnWhileNothingMoves) {
+    popover_.open(std::nullopt);
+    Appearance::current()->setWishes({.highContrast = {}, .reducedMotion = true});
+    run(1190);
+    int frames = 0;
+    for (const QQuickWindow* const window : shownWindows()) {
+        connectFrames(window, frames);
+    }
+    QTest::qWait(200);
+    frames = 0;
+    QTest::qWait(400);
+    EXPECT_EQ(frames, 0);
+    run(1);
+    EXPECT_TRUE(QTest::qWaitFor([&frames] { return frames > 0; })) << "but a second that passes is";
 }
 
 TEST_F(FaceTest, aLowDisplayShowsTheWholeOverlaySmaller) {

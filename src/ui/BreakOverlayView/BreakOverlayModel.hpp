@@ -27,6 +27,7 @@ class BreakOverlayModel : public QObject {
     Q_PROPERTY(int cadenceDots READ cadenceDots NOTIFY contentChanged)
     Q_PROPERTY(QString cadenceText READ cadenceText NOTIFY contentChanged)
     Q_PROPERTY(bool cadenceSkip READ cadenceSkip NOTIFY contentChanged)
+    Q_PROPERTY(QString cadenceSkipText READ cadenceSkipText NOTIFY contentChanged)
     Q_PROPERTY(kestrelfen::ControlListModel* controls READ controls CONSTANT)
 
   public:
@@ -42,6 +43,7 @@ class BreakOverlayModel : public QObject {
     int cadenceDots() const;
     QString cadenceText() const { return QString::fromStdString(content_.cadenceText.value_or("")); }
     bool cadenceSkip() const { return content_.cadenceSkip.value_or(false); }
+    QString cadenceSkipText() const { return QString::fromStdString(content_.cadenceSkipText); }
     ControlListModel* controls() { return &controls_; }
 
     /// A click on the control with that key.

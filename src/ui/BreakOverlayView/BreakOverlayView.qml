@@ -10,20 +10,15 @@ Item {
     required property BreakOverlayModel model
     readonly property int padding: 48
     /// How far the breath of the halo reaches out of the column.
-    readonly property int haloReach: 72
+    readonly property int haloReach: 96
     /// Where things move; the rest is one still picture.
     readonly property rect lively: Qt.rect(width / 2 - column.width * column.scale / 2 - haloReach, height / 2 - column.height * column.scale / 2 - haloReach, column.width * column.scale + 2 * haloReach, column.height * column.scale + 2 * haloReach)
 
     Accessible.role: Accessible.Pane
     Accessible.name: model.title
 
-    Wash {
+    Backdrop {
         anchors.fill: parent
-        first: Glass.wallpaper2
-        second: Glass.wallpaper1
-        third: Glass.wallpaper4
-        blur: Glass.dark ? "#2410191e" : "#24f6fafa"
-        veil: Glass.glass2
     }
 
     Column {
@@ -33,17 +28,16 @@ Item {
         scale: Math.min(1, (view.height - 2 * view.padding) / height, (view.width - 2 * view.padding) / width)
         spacing: view.model.isLong ? 24 : 26
 
-        Text {
+        Label {
             anchors.horizontalCenter: parent.horizontalCenter
             visible: view.model.isLong
-            text: view.model.eyebrow.toUpperCase()
-            Accessible.role: Accessible.StaticText
-            Accessible.name: text
+            text: view.model.eyebrow
+            upperCased: true
             color: Glass.accent
-            font.family: Appearance.monospaced
-            font.pixelSize: 11
-            font.weight: Font.Medium
-            font.letterSpacing: 2
+            monospaced: true
+            size: 11
+            weight: Font.Medium
+            tracking: 2
         }
 
         BreathingRing {
@@ -58,27 +52,22 @@ Item {
             width: view.model.isLong ? 520 : 560
             spacing: 11
 
-            Text {
+            Label {
                 width: parent.width
                 horizontalAlignment: Text.AlignHCenter
                 text: view.model.title
-                Accessible.role: Accessible.StaticText
-                Accessible.name: text
-                color: Glass.ink
-                font.pixelSize: 31
-                font.weight: Font.DemiBold
-                font.letterSpacing: -0.9
+                size: 31
+                weight: Font.DemiBold
+                tracking: -0.9
             }
 
-            Text {
+            Label {
                 width: parent.width
                 horizontalAlignment: Text.AlignHCenter
                 wrapMode: Text.WordWrap
                 text: view.model.body
-                Accessible.role: Accessible.StaticText
-                Accessible.name: text
                 color: Glass.slate
-                font.pixelSize: 15
+                size: 15
                 lineHeight: lineCount > 1 ? 1.35 : 1
             }
         }
@@ -89,6 +78,7 @@ Item {
             dots: view.model.cadenceDots
             text: view.model.cadenceText
             skippable: view.model.cadenceSkip
+            skipText: view.model.cadenceSkipText
             onSkipped: view.model.skip()
         }
 
@@ -103,14 +93,12 @@ Item {
                 }
             }
 
-            Text {
+            Label {
                 anchors.verticalCenter: parent.verticalCenter
                 visible: text !== ""
                 text: view.model.coverageNote
-                Accessible.role: Accessible.StaticText
-                Accessible.name: text
                 color: Glass.faint
-                font.pixelSize: 11
+                size: 11
             }
         }
     }

@@ -10,6 +10,7 @@ GlassSurface {
     required property int dots
     required property string text
     required property bool skippable
+    required property string skipText
 
     signal skipped
 
@@ -62,13 +63,11 @@ GlassSurface {
             }
         }
 
-        Text {
+        Label {
             anchors.verticalCenter: parent.verticalCenter
             text: indicator.text
-            Accessible.role: Accessible.StaticText
-            Accessible.name: text
             color: Glass.slate
-            font.pixelSize: 12
+            size: 12
         }
 
         Item {
@@ -82,7 +81,7 @@ GlassSurface {
                 id: skip
                 anchors.left: parent.left
                 anchors.verticalCenter: parent.verticalCenter
-                label: "Skip"
+                label: indicator.skipText
                 textSize: 12
                 textColor: Glass.faint
                 fill: "transparent"

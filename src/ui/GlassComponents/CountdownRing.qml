@@ -32,7 +32,6 @@ Item {
         size: ring.labelSize
         weight: Font.DemiBold
         monospaced: true
-        tracking: -ring.labelSize * 0.04
         Accessible.ignored: true
     }
 }

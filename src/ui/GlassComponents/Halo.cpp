@@ -9,24 +9,22 @@ namespace kestrelfen {
 namespace {
 
 constexpr double greatestScale = 1.06;
-constexpr int frameMilliseconds = 33;
 
 /// Beyond this many times its blur the disc is as good as gone.
-constexpr double reach = 1.3;
-
-double easeInOut(double share) {
-    return (1.0 - std::cos(share * std::numbers::pi)) / 2.0;
-}
+constexpr double reach = 2.6;
 
 /// How much of a blurred edge is left `distance` outside of it.
 double falloff(double distance, double sigma) {
     return std::erfc(distance / (sigma * std::numbers::sqrt2)) / 2.0;
 }
 
+/// Entries of a table of shades for each pixel of distance.
+constexpr int finesse = 4;
+
 } // namespace
 
 Halo::Halo(QQuickItem* parent) : PictureItem(parent) {
-    timer_.setInterval(frameMilliseconds);
+    timer_.setSingleShot(true);
     connect(&timer_, &QTimer::timeout, this, &Halo::breathe);
     fit();
 }
@@ -49,31 +47,51 @@ void Halo::setBlur(double blur) {
     emit lookChanged();
 }
 
+void Halo::setLegSeconds(double seconds) {
+    legSeconds_ = seconds;
+    restart();
+    emit lookChanged();
+}
+
 void Halo::setBreathing(bool breathing) {
-    if (breathing == timer_.isActive()) {
+    if (breathing == isBreathing_) {
         return;
     }
-    frame_ = 0;
-    breathing ? timer_.start() : timer_.stop();
+    isBreathing_ = breathing;
+    restart();
     emit lookChanged();
+}
+
+void Halo::restart() {
+    timer_.stop();
+    steps_.clear();
+    if (growth_ != 0) {
+        growth_ = 0;
+        remake();
+    }
+    if (isBreathing_ && diameter_ > 0) {
+        steps_ = breathSteps(implicitWidth() * (greatestScale - 1.0), legSeconds_);
+        step_ = 0;
+        timer_.start(steps_[1].milliseconds);
+    }
 }
 
 void Halo::fit() {
     setImplicitSize(diameter_ + 2 * reach * blur_, diameter_ + 2 * reach * blur_);
     remake();
+    restart();
 }
 
 void Halo::breathe() {
-    ++frame_;
-    const double legs = frame_ * frameMilliseconds / (legSeconds_ * 1000.0);
-    const double leg = std::floor(legs);
-    const double share = std::fmod(leg, 2.0) == 0.0 ? legs - leg : 1.0 - (legs - leg);
-    const double wanted = width() * (greatestScale - 1.0) * easeInOut(share);
-    const int growth = 2 * static_cast<int>(std::lround(wanted / 2.0));
-    if (growth != growth_) {
-        growth_ = growth;
-        update();
+    ++step_;
+    if (steps_[step_].growth != growth_) {
+        growth_ = steps_[step_].growth;
+        remake();
     }
+    if (step_ + 1 == steps_.size()) {
+        step_ = 0;
+    }
+    timer_.start(steps_[step_ + 1].milliseconds - steps_[step_].milliseconds);
 }
 
 QRectF Halo::pictureRect() const {
@@ -81,19 +99,35 @@ QRectF Halo::pictureRect() const {
     return boundingRect().adjusted(-half, -half, half, half);
 }
 
-QImage Halo::makePicture(const QSizeF& size, double ratio) const {
+/// The shades from the centre outwards, `finesse` to a device pixel.
+std::vector<QRgb> Halo::shades(double farthest, double scale) const {
+    const double edge = diameter_ / 2.0 * scale;
+    const double sigma = blur_ * scale;
+    std::vector<QRgb> shades(static_cast<std::size_t>(farthest * finesse) + 2);
+    for (std::size_t place = 0; place < shades.size(); ++place) {
+        const double distance = static_cast<double>(place) / finesse - edge;
+        const double alpha = 255.0 * static_cast<double>(tint_.alphaF()) * falloff(distance, sigma);
+        shades[place] = qPremultiply(
+            qRgba(tint_.red(), tint_.green(), tint_.blue(), static_cast<int>(std::lround(alpha))));
+    }
+    return shades;
+}
+
+QImage Halo::makePicture(const QSizeF& /*size*/, double ratio) const {
+    const QSizeF size = pictureRect().size();
     QImage image((size * ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
+    const int last = image.width() - 1;
     const double centre = image.width() / 2.0;
-    const double edge = diameter_ / 2.0 * ratio;
-    const double sigma = blur_ / 2.0 * ratio;
-    for (int y = 0; y < image.height(); ++y) {
+    const std::vector<QRgb> shadeAt =
+        shades(centre * std::numbers::sqrt2, ratio * size.width() / std::max(1.0, width()));
+    for (int y = 0; y <= last / 2; ++y) {
         auto* const line = reinterpret_cast<QRgb*>(image.scanLine(y));
-        for (int x = 0; x < image.width(); ++x) {
-            const double distance = std::hypot(x + 0.5 - centre, y + 0.5 - centre) - edge;
-            const double alpha = 255.0 * static_cast<double>(tint_.alphaF()) * falloff(distance, sigma);
-            line[x] = qPremultiply(
-                qRgba(tint_.red(), tint_.green(), tint_.blue(), static_cast<int>(std::lround(alpha))));
+        for (int x = 0; x <= last / 2; ++x) {
+            const double distance =
+                std::sqrt((x + 0.5 - centre) * (x + 0.5 - centre) + (y + 0.5 - centre) * (y + 0.5 - centre));
+            line[x] = line[last - x] = shadeAt[static_cast<std::size_t>(distance * finesse + 0.5)];
         }
+        std::copy(line, line + last + 1, reinterpret_cast<QRgb*>(image.scanLine(last - y)));
     }
     image.setDevicePixelRatio(ratio);
     return image;

@@ -39,6 +39,6 @@ Item {
         radius: card.radius
         color: card.blended ? card.fill : card.solidFill
         border.width: 1
-        border.color: card.blended ? Glass.hudBorder : Qt.tint(card.solidFill, Glass.hudBorder)
+        border.color: Glass.over(Glass.hudBorder, color)
     }
 }

@@ -11,7 +11,7 @@ Item {
 
     implicitHeight: words.height + 28
 
-    Rectangle {
+    Outline {
         id: marker
         anchors.left: parent.left
         anchors.leftMargin: 20
@@ -19,9 +19,8 @@ Item {
         width: 16
         height: 16
         radius: 5
-        color: "transparent"
-        border.width: 1.5
-        border.color: Glass.accent
+        lineWidth: 1.5
+        tint: Glass.accent
 
         Rectangle {
             anchors.centerIn: parent

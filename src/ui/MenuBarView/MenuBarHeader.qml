@@ -45,7 +45,6 @@ Item {
             text: header.model.value
             size: 16
             weight: Font.DemiBold
-            tracking: -0.2
             elide: Text.ElideRight
         }
 

@@ -58,7 +58,7 @@ Item {
         onPressed: view.dismissed()
     }
 
-    PopoverGround {
+    Wash {
         id: sheet
         x: view.sideRoom
         y: view.topRoom

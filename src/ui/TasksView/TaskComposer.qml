@@ -11,7 +11,7 @@ GlassSurface {
     radius: 14
     implicitHeight: Math.max(17, field.implicitHeight) + 22
 
-    Rectangle {
+    Outline {
         id: circle
         anchors.left: parent.left
         anchors.leftMargin: 14
@@ -19,9 +19,8 @@ GlassSurface {
         width: 17
         height: 17
         radius: 8.5
-        color: "transparent"
-        border.width: 1.5
-        border.color: Glass.faint
+        lineWidth: 1.5
+        tint: Glass.faint
     }
 
     TextInputField {
