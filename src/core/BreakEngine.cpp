@@ -1,5 +1,6 @@
 #include "core/BreakEngine.hpp"
 
+#include "base/Fault.hpp"
 #include "core/Formatters.hpp"
 #include "core/Settings.hpp"
 #include "platform/ports/Clock.hpp"
@@ -9,8 +10,6 @@
 #include "platform/ports/ProgramFocus.hpp"
 #include "platform/ports/StandardOutput.hpp"
 #include "platform/ports/TimeFormat.hpp"
-
-#include <algorithm>
 
 namespace kestrelfen {
 
@@ -48,6 +47,9 @@ void BreakEngine::start() {
 }
 
 void BreakEngine::handleTick() {
+    if (std::this_thread::get_id() != thread_) {
+        fault("a tick came off the main thread");
+    }
     tick(platform_.clock.now());
 }
 

@@ -16,6 +16,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <thread>
 #include <vector>
 
 namespace kestrelfen {
@@ -150,7 +151,6 @@ class BreakEngine {
     void tickPaused(PauseReason reason, Date date);
     bool pauseIfAway(Date date);
     bool autoPauseIfIdle();
-    std::optional<double> secondsSinceLastInput() const;
     bool resumesAutomatically() const;
     void systemResume(PauseReason signal);
     void suspendPhase();
@@ -190,6 +190,7 @@ class BreakEngine {
     std::function<void()> lockScreen_;
     Logger log_;
     const bool verboseLogging_;
+    const std::thread::id thread_ = std::this_thread::get_id();
     bool warningDismissed_ = false;
     Property<std::int64_t> breaksInCadence_;
     Property<std::optional<SuspendedPhase>> suspendedPhase_;

@@ -69,6 +69,10 @@ std::string Formatters::spelled(double seconds) {
     return minutesAndSeconds(upwardFromZero(seconds), " sec");
 }
 
+std::string Formatters::wholeSeconds(double seconds) {
+    return std::to_string(whole(std::ceil(seconds)));
+}
+
 std::string Formatters::day(Date date, const Calendar& calendar) {
     return isoDay(calendar.civilTime(date).day);
 }

@@ -26,6 +26,9 @@ struct Formatters {
     /// "19 min 59 sec".
     static std::string spelled(double seconds);
 
+    /// "20": whole seconds, rounded up.
+    static std::string wholeSeconds(double seconds);
+
     /// The local calendar day, "2026-03-09".
     static std::string day(Date date, const Calendar& calendar);
 };

@@ -76,6 +76,13 @@ class ScreenTimeTracker {
   private:
     struct Batch;
 
+    /// Done when the batches that were under way at its beginning are.
+    struct Awaiting {
+        std::size_t through;
+        std::size_t batchesLeft;
+        std::function<void()> completion;
+    };
+
     bool shouldAccrue(const BreakState& state, double idleThreshold) const;
     bool isMainDisplayAwake() const;
     bool isInputRecent(double idleThreshold) const;
@@ -88,6 +95,7 @@ class ScreenTimeTracker {
     void startFlush();
     void writeNext(const std::shared_ptr<Batch>& batch);
     void finish(const Batch& batch);
+    void completeFlushes();
     void beginDay(Date dayStart);
 
     const Platform platform_;
@@ -105,8 +113,9 @@ class ScreenTimeTracker {
     std::optional<std::string> lastBundleIdentifier_;
     DisplayLocator displayLocator_;
     DomainCache domainCache_;
-    int batchesUnderWay_ = 0;
-    std::vector<std::function<void()>> awaitingBatches_;
+    std::size_t batchesBegun_ = 0;
+    std::size_t batchesUnderWay_ = 0;
+    std::vector<Awaiting> awaiting_;
     Lifeline lifeline_;
 };
 

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <numeric>
 
 namespace kestrelfen {
@@ -35,6 +36,7 @@ struct ScreenTimeTracker::Batch {
     std::vector<SecondsTally<std::string>::Entry> sites;
     std::vector<SecondsTally<UsageBucket>::Entry> buckets;
     Date dayStart;
+    std::size_t number = 0;
     std::size_t sitesHandedOver = 0;
     std::size_t bucketsHandedOver = 0;
 
@@ -63,12 +65,13 @@ void ScreenTimeTracker::flush(std::function<void()> completion) {
     const bool hasPending = !pending_.isEmpty() || !pendingWebsites_.isEmpty();
     if (store_ && hasPending) {
         ++batchesUnderWay_;
-        writeNext(std::make_shared<Batch>(Batch{pendingWebsites_.take(), pending_.take(), dayStart_}));
+        writeNext(std::make_shared<Batch>(
+            Batch{pendingWebsites_.take(), pending_.take(), dayStart_, ++batchesBegun_}));
     }
     if (batchesUnderWay_ == 0) {
         runIfSet(completion);
     } else if (completion) {
-        awaitingBatches_.push_back(std::move(completion));
+        awaiting_.push_back({batchesBegun_, batchesUnderWay_, std::move(completion)});
     }
 }
 
@@ -96,10 +99,21 @@ void ScreenTimeTracker::finish(const Batch& batch) {
     if (onFlushed) {
         onFlushed(batch.buckets.size(), batch.sites.size());
     }
-    if (--batchesUnderWay_ == 0) {
-        for (const auto& completion : std::exchange(awaitingBatches_, {})) {
-            completion();
-        }
+    --batchesUnderWay_;
+    for (Awaiting& each : awaiting_) {
+        each.batchesLeft -= batch.number <= each.through ? 1 : 0;
+    }
+    completeFlushes();
+}
+
+void ScreenTimeTracker::completeFlushes() {
+    const auto done = std::stable_partition(awaiting_.begin(), awaiting_.end(),
+                                            [](const Awaiting& each) { return each.batchesLeft > 0; });
+    const std::vector<Awaiting> completed(std::make_move_iterator(done),
+                                          std::make_move_iterator(awaiting_.end()));
+    awaiting_.erase(done, awaiting_.end());
+    for (const Awaiting& each : completed) {
+        each.completion();
     }
 }
 

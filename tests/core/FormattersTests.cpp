@@ -125,6 +125,11 @@ TEST(FormattersDay, WritesTheLocalCalendarDay) {
     EXPECT_EQ(Formatters::day(at("15:00:00"), calendar), "2026-03-10");
 }
 
+TEST(FormattersWholeSeconds, RoundUpwardAlsoBelowZero) {
+    expectRows(Formatters::wholeSeconds,
+               {{20, "20"}, {20.01, "21"}, {0, "0"}, {0.2, "1"}, {-0.2, "0"}, {-1.5, "-1"}, {3725, "3725"}});
+}
+
 TEST(FormattersDeathTest, ANumberThatCannotBeWrittenStopsTheProgram) {
     constexpr double infinity = std::numeric_limits<double>::infinity();
     constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
@@ -135,6 +140,8 @@ TEST(FormattersDeathTest, ANumberThatCannotBeWrittenStopsTheProgram) {
     EXPECT_DEATH(Formatters::countdown(-infinity), "fault");
     EXPECT_DEATH(Formatters::clockCountdown(9.3e18), "fault");
     EXPECT_DEATH(Formatters::spelled(notANumber), "fault");
+    EXPECT_DEATH(Formatters::wholeSeconds(1e300), "fault");
+    EXPECT_DEATH(Formatters::wholeSeconds(notANumber), "fault");
 }
 
 TEST(Formatters, TheLargestNumbersThatFitAreWritten) {

@@ -1,5 +1,7 @@
 #include "core/EngineTest.hpp"
 
+#include <thread>
+
 namespace kestrelfen {
 namespace {
 
@@ -135,6 +137,15 @@ TEST_F(StartTest, AfterShutDownTheTimerDoesNothing) {
     run(1300);
     EXPECT_EQ(state(), "idle");
     EXPECT_EQ(happened(), "");
+}
+
+using StartDeathTest = StartTest;
+
+TEST_F(StartDeathTest, ATickOffTheMainThreadIsAFault) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    start();
+    forget();
+    EXPECT_DEATH(std::thread([this] { platform.ticker.fire(); }).join(), "a tick came off the main thread");
 }
 
 } // namespace

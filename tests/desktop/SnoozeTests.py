@@ -6,6 +6,8 @@ from scaffold import DesktopTest, until
 from scaffold.accessibility import LABEL
 from scaffold.program import QUICK
 
+WAITS = [f"Skip in {seconds}" for seconds in (5, 4, 3, 2, 1)]
+
 
 class SnoozeTests(DesktopTest):
     def test_snooze_button_takes_the_overlays_away_and_is_counted(self):
@@ -34,7 +36,9 @@ class SnoozeTests(DesktopTest):
         self.wait_for_overlays()
         told = []
         until(lambda: "Skip This Break" in self.note(program, told), "the skip")
-        self.assertEqual(told, ["Skip in 5", "Skip in 4", "Skip in 3", "Skip in 2", "Skip in 1", "Skip This Break"])
+        # A look may miss a second while the machine is busy.
+        self.assertEqual(told, [name for name in WAITS if name in told] + ["Skip This Break"])
+        self.assertGreater(len(told), 3)
         self.click_button(program, "Skip This Break")
         program.logs("break skipped (today: 1 skipped)")
         self.wait_for_no_overlay()
@@ -49,10 +53,15 @@ class SnoozeTests(DesktopTest):
     def test_click_on_a_skip_that_must_be_waited_for_does_nothing(self):
         program = self.start(QUICK | {"enforcementLevel": "balanced"})
         self.wait_for_overlays()
-        self.hands.click(until(lambda: self.tree.control(program.pid, "Skip in 5", LABEL), "the wait label"))
-        self.wait_until_told(program, "Skip in 3")
+        self.hands.click(until(lambda: self.wait_label(program), "the wait label"))
+        self.wait_until_told(program, "Skip in 1")
         self.assertEqual(program.count("break skipped"), 0)
         self.assertEqual(len(self.windows.overlays()), 2)
+
+    def wait_label(self, program):
+        """Where the skip says how long to wait, whichever second that is."""
+        told = next((name for name in self.tree.told(program.pid, LABEL) if name in WAITS), None)
+        return told and self.tree.control(program.pid, told, LABEL)
 
     def test_hardcore_offers_no_skip(self):
         program = self.start(QUICK | {"enforcementLevel": "hardcore"})

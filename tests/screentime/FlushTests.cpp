@@ -190,6 +190,20 @@ TEST_F(FlushTest, ALaterOneThatEndsFirstWaitsForTheEarlierOne) {
                                  "08:00:03 flushed"}));
 }
 
+TEST_F(FlushTest, ItDoesNotWaitForOnesThatBeginLater) {
+    tick();
+    forget();
+    flush();
+    useChrome();
+    sample();
+    tracker->flush();
+    settle();
+    EXPECT_EQ(happened(),
+              lines({"08:00:03 script com.google.Chrome", "08:00:03 log info ScreenTime: flushed 1 bucket(s)",
+                     "08:00:03 flush 1 0", "08:00:03 flushed",
+                     "08:00:03 log info ScreenTime: flushed 1 bucket(s)", "08:00:03 flush 1 1"}));
+}
+
 TEST_F(FlushTest, AFailingStoreLosesTheSecondsAndTheCountRunsAhead) {
     run(2);
     storeFailure = "disk full";

@@ -10,7 +10,7 @@ class StatusBarButton {
     /// Whether the button has appeared.
     virtual bool exists() const = 0;
 
-    /// From now on a right click acts as a left click does. Only once the button exists.
+    /// From now on, at the latest, a right click acts as a left click does. Only once the button exists.
     virtual void answerRightClicks() = 0;
 };
 

@@ -25,7 +25,8 @@ class StatusItem final : public StatusBarButton {
     void follow(BreakEngine& engine, MainQueue& queue);
 
     bool exists() const override { return tray_.isShown(); }
-    void answerRightClicks() override { answersRightClicks_ = true; }
+    /// The trays of these desktops tell both clicks alike, from the start.
+    void answerRightClicks() override {}
 
   private:
     void refresh();
@@ -36,7 +37,6 @@ class StatusItem final : public StatusBarButton {
     std::optional<std::string_view> symbol_;
     std::string text_;
     std::string announced_;
-    bool answersRightClicks_ = false;
 };
 
 } // namespace kestrelfen
