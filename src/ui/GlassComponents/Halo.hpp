@@ -11,8 +11,8 @@
 
 namespace kestrelfen {
 
-/// A soft disc that breathes: it grows and shrinks again, easing in and out, `legSeconds` each way. It wakes and is
-/// drawn only when its edge has moved by a whole pixel. Main thread only.
+/// A soft disc that breathes: it grows and shrinks again, easing in and out, `legSeconds` each way. It wakes
+/// and is drawn only when its edge has moved by a whole pixel. Main thread only.
 class Halo : public kestrelfen::PictureItem {
     Q_OBJECT
     QML_ELEMENT

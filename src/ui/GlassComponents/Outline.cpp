@@ -14,7 +14,8 @@ void Outline::paint(QPainter* painter) {
     const double radius = radius_ - inset;
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setPen(QPen(tint_, lineWidth_));
-    painter->drawRoundedRect(QRectF(0, 0, width(), height()).adjusted(inset, inset, -inset, -inset), radius, radius);
+    painter->drawRoundedRect(QRectF(0, 0, width(), height()).adjusted(inset, inset, -inset, -inset), radius,
+                             radius);
 }
 
 } // namespace kestrelfen

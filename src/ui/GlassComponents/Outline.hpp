@@ -6,8 +6,8 @@
 
 namespace kestrelfen {
 
-/// A line along the inside of a rounded rectangle, `lineWidth` wide, which may be a fraction: a rectangle's border is of
-/// whole pixels, and uneven otherwise. Main thread only.
+/// A line along the inside of a rounded rectangle, `lineWidth` wide, which may be a fraction: a rectangle's
+/// border is of whole pixels, and uneven otherwise. Main thread only.
 class Outline : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT

@@ -1,7 +1,7 @@
 import QtQuick
 import Kestrelfen
 
-/// A small coloured tag.
+/// A small coloured tag. What it stands in speaks for it.
 Rectangle {
     id: badge
 
@@ -22,5 +22,6 @@ Rectangle {
         tracking: 0.8
         upperCased: true
         color: badge.tint
+        Accessible.ignored: true
     }
 }

@@ -38,8 +38,9 @@ class HaloTest : public KitTest {
   protected:
     /// 152 pixels wide with the reach of its blur, its centre at (100, 100).
     QQuickItem* showHalo(const QString& more = {}) {
-        return show("Halo { x: 24; y: 24; width: 152; height: 152; tint: '#80ff0000'; diameter: 100; blur: 10; " +
-                    more + "}");
+        return show(
+            "Halo { x: 24; y: 24; width: 152; height: 152; tint: '#80ff0000'; diameter: 100; blur: 10; " +
+            more + "}");
     }
 
     /// How red it is so far from the centre, from 0 to 1.
