@@ -1,8 +1,9 @@
 """Runs random scenarios through the simulator and holds the rules of the timer and of the history against all that it
 shows.
 
-    random_scenarios.py SIMULATOR           the usual seeds
-    random_scenarios.py SIMULATOR SEED      one of them, printing its scenario
+    random_scenarios.py SIMULATOR                 the usual seeds
+    random_scenarios.py SIMULATOR SEED            one of them, printing its scenario
+    random_scenarios.py SIMULATOR --count N       so many, for a long run
 """
 
 import json
@@ -233,10 +234,17 @@ def failure_of(simulator, seed):
     return None
 
 
-def main(simulator, seed=None):
-    if seed is not None:
-        print(Scenario(int(seed)).text(), end="")
-    seeds = SEEDS if seed is None else [int(seed)]
+def chosen_seeds(choice):
+    if not choice:
+        return SEEDS
+    if choice[0] == "--count":
+        return range(int(choice[1]))
+    print(Scenario(int(choice[0])).text(), end="")
+    return [int(choice[0])]
+
+
+def main(simulator, *choice):
+    seeds = chosen_seeds(choice)
     with ThreadPoolExecutor(os.cpu_count()) as pool:
         failures = [failure for failure in pool.map(lambda each: failure_of(simulator, each), seeds) if failure]
     for failure in failures[:5]:
