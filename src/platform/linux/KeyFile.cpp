@@ -1,7 +1,5 @@
 #include "platform/linux/KeyFile.hpp"
 
-#include <optional>
-
 namespace kestrelfen {
 
 namespace {
@@ -19,11 +17,6 @@ std::string_view takeLine(std::string_view& text) {
     const std::string_view line = text.substr(0, end);
     text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
     return trimmed(line);
-}
-
-std::optional<std::string_view> groupName(std::string_view line) {
-    const bool isGroup = line.size() > 2 && line.front() == '[' && line.back() == ']';
-    return isGroup ? std::optional(line.substr(1, line.size() - 2)) : std::nullopt;
 }
 
 char unescaped(char letter) {
@@ -47,13 +40,18 @@ bool isEscape(char letter) {
 
 } // namespace
 
+std::optional<std::string_view> keyFileGroupName(std::string_view line) {
+    const bool isGroup = line.size() > 2 && line.front() == '[' && line.back() == ']';
+    return isGroup ? std::optional(line.substr(1, line.size() - 2)) : std::nullopt;
+}
+
 std::map<std::string, std::string, std::less<>> keyFileGroup(std::string_view text, std::string_view group) {
     std::map<std::string, std::string, std::less<>> values;
     bool isInside = false;
     while (!text.empty()) {
         const std::string_view line = takeLine(text);
         const std::size_t equals = line.find('=');
-        if (const auto name = groupName(line)) {
+        if (const auto name = keyFileGroupName(line)) {
             if (isInside) {
                 return values;
             }

@@ -1,5 +1,7 @@
 #include "platform/linux/KeyFileEdit.hpp"
 
+#include "platform/linux/KeyFile.hpp"
+
 #include <utility>
 
 namespace kestrelfen {
@@ -20,11 +22,6 @@ std::string_view takeLine(std::string_view& text) {
     return std::exchange(text, text.substr(length)).substr(0, length);
 }
 
-bool isGroup(std::string_view line, std::string_view name) {
-    return line.size() == name.size() + 2 && line.front() == '[' && line.back() == ']' &&
-           line.substr(1, name.size()) == name;
-}
-
 bool sets(std::string_view line, std::string_view key) {
     const std::size_t equals = line.find('=');
     return equals != std::string_view::npos && bare(line.substr(0, equals)) == key;
@@ -39,8 +36,8 @@ std::string edited(std::string_view text, std::string_view group, std::string_vi
     while (!text.empty()) {
         const std::string_view line = takeLine(text);
         const std::string_view words = bare(line);
-        if (words.starts_with('[')) {
-            isInside = !wasInside && isGroup(words, group);
+        if (const auto name = keyFileGroupName(words)) {
+            isInside = !wasInside && *name == group;
         }
         if (isInside && !words.starts_with('#') && sets(words, key)) {
             continue;

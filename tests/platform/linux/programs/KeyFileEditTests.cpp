@@ -1,3 +1,4 @@
+#include "platform/linux/KeyFile.hpp"
 #include "platform/linux/KeyFileEdit.hpp"
 
 #include <gtest/gtest.h>
@@ -18,6 +19,11 @@ TEST(KeyFileEdit, OnlyTheFirstGroupOfANameCounts) {
 TEST(KeyFileEdit, ATextWithoutTheGroupStaysAsItIs) {
     EXPECT_EQ(withKey("[A]\nx=1\n", "B", "x", "3"), "[A]\nx=1\n");
     EXPECT_EQ(withKey("", "B", "x", "3"), "");
+}
+
+TEST(KeyFileEdit, ALineThatNamesNoGroupEndsNone) {
+    EXPECT_EQ(withoutKey("[A]\nx=1\n[B\nx=2\n[]\nx=3\n[C]\nx=4\n", "A", "x"), "[A]\n[B\n[]\n[C]\nx=4\n");
+    EXPECT_EQ(keyFileGroup("[A]\nx=1\n[B\ny=2\n", "A").count("y"), 1U);
 }
 
 TEST(KeyFileEdit, ALastLineMayLackItsLineFeed) {

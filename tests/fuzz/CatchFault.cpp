@@ -1,0 +1,11 @@
+#include "fuzz/CatchFault.hpp"
+
+#include "base/Fault.hpp"
+
+namespace kestrelfen {
+
+void fault(const char* /*what*/) {
+    throw FaultReached();
+}
+
+} // namespace kestrelfen
