@@ -10,14 +10,17 @@ import argparse
 import itertools
 import shutil
 import sys
+import tempfile
+import time
 from pathlib import Path
 
-from scaffold import Desktop, until
+from scaffold import Desktop, three_months, until
 from scaffold.desktop import LEFT
-from scaffold.program import QUICK, Program
+from scaffold.program import BINARY, QUICK, Program
 
 MARGIN = 24
 LONG_WORK = {"workIntervalSeconds": 754.0}
+SIZES = {"smallest": (900, 560), "usual": (1040, 660), "large": (1900, 1040)}
 
 
 class Studio:
@@ -37,10 +40,10 @@ class Studio:
         name = Path(command).name
         until(lambda: any(window.name == name for window in self.desktop.windows.all()), "the compositor")
 
-    def start(self, **preferences):
+    def start(self, home=None, zone="UTC", **preferences):
         self.desktop.hands.move_to((960, 900))
         return Program(self.desktop, QUICK | preferences | {"appearance": self.appearance},
-                       environment={"QT_SCALE_FACTOR": str(self.scale)})
+                       environment={"QT_SCALE_FACTOR": str(self.scale), "TZ": zone}, home=home)
 
     def shoot(self, name, frame):
         """With a margin, as far as the left display goes."""
@@ -52,6 +55,19 @@ class Studio:
                          f"{right - left}x{bottom - top}+{left}+{top}", "+repage", str(path))
         print(path)
 
+    def resize(self, window, size):
+        """To a size in the pixels of the program, from the display's corner on."""
+        width, height = (str(self.scale * number) for number in size)
+        self.desktop.run("xdotool", "windowmove", window.id, "0", "0", "windowsize", "--sync", window.id, width, height)
+
+    def shoot_window(self, name, window):
+        """Alone, when it has settled and the pointer is away from what reacts to it."""
+        self.desktop.hands.move_to((2 * LEFT[2] - 1, LEFT[3] - 1))
+        time.sleep(1.0)
+        path = self.folder / f"{name}-{self.appearance}-{self.scale}x{self.suffix}.png"
+        self.desktop.run("import", "-silent", "-window", window.id, str(path))
+        print(path)
+
     def wait_until_told(self, program, name):
         until(lambda: name in self.tree.told(program.pid), name, 40.0)
 
@@ -60,8 +76,8 @@ class Studio:
         program.second_start()
         return until(self.desktop.windows.popover, "the popover")
 
-    def click(self, program, name):
-        point = until(lambda: self.tree.button(program.pid, name), name)
+    def click(self, program, name, role="push button"):
+        point = until(lambda: self.tree.control(program.pid, name, role), name)
         # The tree counts in the pixels of the program, not in those of the display.
         self.desktop.hands.click(tuple(self.scale * number for number in point))
 
@@ -117,7 +133,28 @@ def popover_on_break(studio):
     program.end()
 
 
-SCENES = (overlay_short, overlay_long, warning_card, popover_working_and_paused, popover_on_break)
+def main_window(studio):
+    """Over three months of history, in the sizes from the smallest to all of a display."""
+    home = Path(tempfile.mkdtemp(prefix="run-", dir=studio.desktop.folder))
+    zone = three_months.make(home / "data" / "kestrelfen" / "Kestrelfen.sqlite",
+                             Path(BINARY).with_name("kestrelfen-sim"))
+    program = studio.start(home=home, zone=zone, **LONG_WORK)
+    studio.open_popover(program)
+    studio.click(program, "Screen Time")
+    window = until(lambda: next(iter(studio.desktop.windows.main_windows()), None), "the main window")
+    for name, size in SIZES.items():
+        studio.resize(window, size)
+        for tab in ("Screen Time", "Breaks", "Tasks"):
+            studio.click(program, tab, "radio button")
+            studio.shoot_window(f"main-{tab.replace(' ', '-').lower()}-{name}", window)
+        studio.click(program, "Screen Time", "radio button")
+        studio.click(program, "See All")
+        studio.shoot_window(f"main-usage-{name}", window)
+        studio.click(program, "Done")
+    program.end()
+
+
+SCENES = (overlay_short, overlay_long, warning_card, popover_working_and_paused, popover_on_break, main_window)
 
 
 def shoot_all(studio, suffix):

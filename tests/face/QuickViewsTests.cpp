@@ -1,6 +1,8 @@
 #include "platform/fake/FakeDisplayWishes.hpp"
 #include "shell/desktop/QuickViews.hpp"
 
+#include <QPointer>
+#include <QQmlEngine>
 #include <gtest/gtest.h>
 
 namespace kestrelfen {
@@ -40,6 +42,18 @@ TEST_F(QuickViewsTest, whatTheProgramWasToldGoesBeforeTheDesktopsColours) {
     EXPECT_FALSE(Appearance::current()->dark());
     views_.set(InterfaceStyle::system);
     EXPECT_TRUE(Appearance::current()->dark());
+}
+
+TEST_F(QuickViewsTest, whatViewsNeedStaysWhileThereIsOneAndGoesAfterIt) {
+    showSomething();
+    const QPointer<QQmlEngine> engine = qmlEngine(item_.get());
+    views_.forgetUnused();
+    EXPECT_FALSE(engine.isNull());
+    item_.reset();
+    views_.forgetUnused();
+    EXPECT_TRUE(engine.isNull());
+    showSomething();
+    EXPECT_NE(item_, nullptr);
 }
 
 } // namespace

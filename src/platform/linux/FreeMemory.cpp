@@ -3,7 +3,6 @@
 #include <cinttypes>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
 #include <fstream>
 #include <string>
 #include <sys/mman.h>
@@ -24,7 +23,7 @@ void releaseCode() {
     std::ifstream maps("/proc/self/smaps");
     std::uintptr_t begin = 0;
     std::uintptr_t end = 0;
-    bool isCodeOfFile = false;
+    bool isFixedPartOfFile = false;
     for (std::string line; std::getline(maps, line);) {
         std::uintptr_t from = 0;
         std::uintptr_t to = 0;
@@ -32,11 +31,11 @@ void releaseCode() {
         if (std::sscanf(line.c_str(), "%" SCNxPTR "-%" SCNxPTR " %4s", &from, &to, access) == 3) {
             begin = from;
             end = to;
-            // What is compiled while the program runs lies in no file.
-            isCodeOfFile = std::strcmp(access, "r-xp") == 0 && line.find(" /") != std::string::npos &&
-                           line.find("memfd:") == std::string::npos &&
-                           line.find("(deleted)") == std::string::npos;
-        } else if (isCodeOfFile && line.starts_with("Private_Dirty:") &&
+            // Private and never to be written. What is compiled while the program runs lies in no file.
+            isFixedPartOfFile =
+                access[1] == '-' && access[3] == 'p' && line.find(" /") != std::string::npos &&
+                line.find("memfd:") == std::string::npos && line.find("(deleted)") == std::string::npos;
+        } else if (isFixedPartOfFile && line.starts_with("Private_Dirty:") &&
                    line.find(" 0 kB") != std::string::npos) {
             // Nothing was ever written there, so that nothing can be lost.
             ::madvise(reinterpret_cast<void*>(begin), end - begin, MADV_DONTNEED);

@@ -72,7 +72,8 @@ class KestrelfenApp::Parts {
     AppDelegate delegate_{machine_.ports(), machine_.storeConfiguration(), windows_};
     QuickSceneWindows scenes_{machine_.views,
                               {[this](QWindow& window) { machine_.activationPolicy.bringForward(window); },
-                               [] {
+                               [this] {
+                                   machine_.views.forgetUnused();
                                    returnFreeMemory();
                                    releaseCode();
                                }}};

@@ -1,6 +1,7 @@
 #include "shell/desktop/QuickViews.hpp"
 
 #include <QPainterPath>
+#include <QPixmapCache>
 #include <QQmlComponent>
 #include <QQuickItem>
 #include <QUrl>
@@ -36,9 +37,11 @@ void QuickViews::prepare() {
     if (engine_) {
         return;
     }
-    appearance_ = std::make_unique<Appearance>(style_);
-    if (wishes_) {
-        appearance_->setWishes(wishes_->values());
+    if (!appearance_) {
+        appearance_ = std::make_unique<Appearance>(style_);
+        if (wishes_) {
+            appearance_->setWishes(wishes_->values());
+        }
     }
     engine_ = std::make_unique<QQmlEngine>();
     engine_->addImportPath(QStringLiteral("qrc:/qt/qml"));
@@ -47,6 +50,7 @@ void QuickViews::prepare() {
 std::unique_ptr<QQuickView> QuickViews::make(const QString& view, const QVariantMap& properties) {
     prepare();
     auto window = std::make_unique<QQuickView>(engine_.get(), nullptr);
+    follow(*window);
     window->setInitialProperties(properties);
     window->setSource(urlOf(view));
     return window;
@@ -55,8 +59,24 @@ std::unique_ptr<QQuickView> QuickViews::make(const QString& view, const QVariant
 std::unique_ptr<QQuickItem> QuickViews::makeItem(const QString& view, const QVariantMap& properties) {
     prepare();
     QQmlComponent component(engine_.get(), urlOf(view));
-    return std::unique_ptr<QQuickItem>(
+    std::unique_ptr<QQuickItem> item(
         qobject_cast<QQuickItem*>(component.createWithInitialProperties(properties)));
+    if (item) {
+        follow(*item);
+    }
+    return item;
+}
+
+void QuickViews::follow(QObject& view) {
+    ++viewCount_;
+    QObject::connect(&view, &QObject::destroyed, [this] { --viewCount_; });
+}
+
+void QuickViews::forgetUnused() {
+    if (viewCount_ == 0) {
+        engine_.reset();
+        QPixmapCache::clear();
+    }
 }
 
 void QuickViews::cutToCard(QQuickView& window) {

@@ -30,17 +30,23 @@ class QuickViews final : public InterfaceAppearance {
     /// The view alone, for a window of another kind.
     std::unique_ptr<QQuickItem> makeItem(const QString& view, const QVariantMap& properties);
 
+    /// Lets go of all that views need, unless there still is one. The next one brings it back.
+    void forgetUnused();
+
     /// Cuts a window to a card that fills it, for a desktop that cannot blend.
     static void cutToCard(QQuickView& window);
 
   private:
     void prepare();
+    /// Knows of the view until it goes.
+    void follow(QObject& view);
 
     DisplayWishes* wishes_ = nullptr;
     Subscription subscription_;
     InterfaceStyle style_ = InterfaceStyle::system;
     std::unique_ptr<Appearance> appearance_;
     std::unique_ptr<QQmlEngine> engine_;
+    int viewCount_ = 0;
 };
 
 } // namespace kestrelfen

@@ -26,7 +26,11 @@ Item {
 
         RestingTip {
             hovered: gripHover.hovered
+            // Within the row: what lies beyond the last one is cut off.
             anchors.right: undefined
+            anchors.left: parent.right
+            anchors.leftMargin: 6
+            anchors.verticalCenter: parent.verticalCenter
             text: content.texts.grip
         }
     }
@@ -66,6 +70,7 @@ Item {
         width: visible ? implicitWidth : 0
         text: content.texts.badge
         tint: Glass.accent
+        Accessible.ignored: true
     }
 
     Label {

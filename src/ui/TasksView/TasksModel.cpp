@@ -92,7 +92,9 @@ QVariantList TasksModel::menuEntries(const QVariantMap& row) const {
     }
     entries.append(entry("toggle", row["completedItem"]));
     entries.append(QVariantMap{{"separator", true}});
-    entries.append(entry("delete", shownText(TaskRow::deleteItem)));
+    QVariantMap deletion = entry("delete", shownText(TaskRow::deleteItem));
+    deletion["destructive"] = true;
+    entries.append(deletion);
     return entries;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/EngineFollower.hpp"
+#include "ui/ChangeFollower.hpp"
 #include "ui/RowListModel.hpp"
 #include "ui/TasksView/TaskList.hpp"
 #include "ui/TasksView/TasksContent.hpp"
@@ -77,7 +77,7 @@ class TasksModel : public QObject {
     RowListModel rows_;
     std::int64_t loadedAt_ = 0;
     bool isShown_ = false;
-    EngineFollower follower_;
+    ChangeFollower follower_;
 };
 
 } // namespace kestrelfen

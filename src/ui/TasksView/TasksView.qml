@@ -22,6 +22,7 @@ Item {
     }
 
     Column {
+        id: emptyState
         anchors.horizontalCenter: parent.horizontalCenter
         y: composer.y + composer.height + 14 + 20
         width: Math.min(420, parent.width - 88)
@@ -66,7 +67,6 @@ Item {
             height: table.room
             model: view.model.rows
             spokenLabel: view.model.doneText
-            reuseItems: false
             delegate: TaskListRow {
                 width: list.width
                 model: view.model
@@ -81,7 +81,7 @@ Item {
     TaskFooter {
         id: footer
         x: 24
-        y: view.model.isEmpty ? parent.height - height - 26 : table.y + table.height + 14
+        y: (view.model.isEmpty ? emptyState.y + emptyState.height + 20 : table.y + table.height) + 14
         width: parent.width - 48
         model: view.model
     }

@@ -1,24 +1,50 @@
 import QtQuick
 import Kestrelfen
 
-/// A list that makes only the rows in sight. The wheel, a finger, the arrows, Page Up and Page Down move it.
+/// A list that makes only the rows in sight. The wheel, a finger, the arrows, Page Up and Page Down move it. The row
+/// that gets the keyboard comes into view.
 ListView {
     id: list
 
     property string spokenLabel: ""
     readonly property real mostDown: Math.max(0, contentHeight - height)
+    readonly property Item focused: Window.activeFocusItem
 
     function moveBy(distance: real) {
         contentY = originY + Math.max(0, Math.min(mostDown, contentY - originY + distance));
     }
 
+    /// The row that `item` is or stands in, if it is one of this list.
+    function rowOf(item: Item): Item {
+        for (let each = item; each; each = each.parent) {
+            if (each.parent === contentItem) {
+                return each;
+            }
+        }
+        return null;
+    }
+
+    function show(row: Item) {
+        moveBy(Math.min(0, row.y - contentY) + Math.max(0, row.y + row.height - contentY - height));
+    }
+
     clip: true
     boundsBehavior: Flickable.StopAtBounds
-    reuseItems: true
+    // Rows that are used again are told of in an order that is not theirs.
+    reuseItems: false
+    // One row more at each end, for the keyboard to go to.
+    cacheBuffer: 40
     interactive: mostDown > 0
     activeFocusOnTab: mostDown > 0
     Accessible.role: Accessible.List
     Accessible.name: spokenLabel
+
+    onFocusedChanged: {
+        const row = rowOf(focused);
+        if (row) {
+            show(row);
+        }
+    }
 
     Keys.onUpPressed: moveBy(-40)
     Keys.onDownPressed: moveBy(40)

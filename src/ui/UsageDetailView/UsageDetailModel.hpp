@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/EngineFollower.hpp"
+#include "ui/ChangeFollower.hpp"
 #include "ui/RowListModel.hpp"
 #include "ui/UsageDetailView/UsageDetail.hpp"
 #include "ui/UsageDetailView/UsageDetailContent.hpp"
@@ -68,7 +68,7 @@ class UsageDetailModel : public QObject {
     UsageDetail detail_;
     UsageDetailContent content_;
     RowListModel rows_;
-    EngineFollower follower_;
+    ChangeFollower follower_;
 };
 
 } // namespace kestrelfen

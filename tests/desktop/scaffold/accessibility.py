@@ -37,13 +37,32 @@ class Node:
         return str(self._call(ACCESSIBLE, "GetRoleName"))
 
     @property
+    def path(self):
+        """Tells it from the others of its program."""
+        return str(self._path)
+
+    @property
+    def told(self):
+        return self.name, self.role
+
+    @property
+    def frame(self):
+        """On the display: from the left, from the top, width, height."""
+        return tuple(map(int, self._call(COMPONENT, "GetExtents", "u", SCREEN_COORDINATES)))
+
+    @property
     def centre(self):
-        x, y, width, height = map(int, self._call(COMPONENT, "GetExtents", "u", SCREEN_COORDINATES))
+        x, y, width, height = self.frame
         return x + width // 2, y + height // 2
 
     @property
+    def state(self):
+        """One bit each."""
+        return int(self._call(ACCESSIBLE, "GetState")[0])
+
+    @property
     def is_showing(self):
-        return bool(int(self._call(ACCESSIBLE, "GetState")[0]) & SHOWING)
+        return bool(self.state & SHOWING)
 
     def children(self):
         return [Node(self._bus, service, path) for service, path in self._call(ACCESSIBLE, "GetChildren")]

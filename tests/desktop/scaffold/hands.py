@@ -33,5 +33,18 @@ class Hands:
             path += ["mousemove", *(a + (b - a) * step // steps for a, b in zip(start, end))]
         self._do("mousemove", *start, "mousedown", 1, *path, "mouseup", 1)
 
+    def hold(self):
+        """The button, where the pointer is."""
+        self._do("mousedown", 1)
+
+    def let_go(self):
+        self._do("mouseup", 1)
+
+    def hold_key(self, key):
+        self._do("keydown", key)
+
+    def let_go_key(self, key):
+        self._do("keyup", key)
+
     def activate(self, window):
         self._do("windowactivate", "--sync", window)
