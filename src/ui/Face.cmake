@@ -16,6 +16,7 @@ set(views
     BreakOverlayView/BreathingRing.qml
     BreakOverlayView/CadenceIndicator.qml
     GlassComponents/Backdrop.qml
+    GlassComponents/CardRow.qml
     GlassComponents/ConfirmDialog.qml
     GlassComponents/CountdownRing.qml
     GlassComponents/DangerAction.qml
@@ -28,6 +29,7 @@ set(views
     GlassComponents/HoverTip.qml
     GlassComponents/HudCard.qml
     GlassComponents/Label.qml
+    GlassComponents/MarkTile.qml
     GlassComponents/ModalVeil.qml
     GlassComponents/PlainLink.qml
     GlassComponents/PopupMenu.qml
@@ -41,6 +43,7 @@ set(views
     GlassComponents/SecondaryAction.qml
     GlassComponents/SegmentedPill.qml
     GlassComponents/SegmentedPills.qml
+    GlassComponents/SelectableCard.qml
     GlassComponents/SettingRow.qml
     GlassComponents/SheetCard.qml
     GlassComponents/StepperButton.qml
@@ -66,7 +69,6 @@ set(views
     MenuBarView/PopoverAction.qml
     MenuBarView/TodayRow.qml
     OnboardingView/CadencePage.qml
-    OnboardingView/MarkTile.qml
     OnboardingView/OnboardingView.qml
     OnboardingView/PageDots.qml
     OnboardingView/PresetCard.qml
@@ -122,13 +124,15 @@ set(models
     BreakHistoryView/HistoryModel.hpp
     BreakOverlayView/BreakOverlayModel.cpp
     BreakOverlayView/BreakOverlayModel.hpp
+    ChangeFollower.hpp
     ControlListModel.cpp
     ControlListModel.hpp
-    EngineFollower.hpp
     GlassComponents/Appearance.cpp
     GlassComponents/Appearance.hpp
     GlassComponents/CardShadow.cpp
     GlassComponents/CardShadow.hpp
+    GlassComponents/Disc.cpp
+    GlassComponents/Disc.hpp
     GlassComponents/Breath.cpp
     GlassComponents/Breath.hpp
     GlassComponents/Halo.cpp

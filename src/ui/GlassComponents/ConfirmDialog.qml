@@ -8,7 +8,7 @@ SheetCard {
     required property string title
     required property string message
     required property string destructiveLabel
-    property string cancelLabel: "Cancel"
+    required property string cancelLabel
 
     signal confirmed
     signal cancelled

@@ -38,7 +38,14 @@ Item {
         implicitHeight: childrenRect.height
         radius: card.radius
         color: card.blended ? card.fill : card.solidFill
+    }
+
+    // Over the content, which reaches to the edges.
+    Rectangle {
+        anchors.fill: body
+        radius: card.radius
+        color: "transparent"
         border.width: 1
-        border.color: Glass.over(Glass.hudBorder, color)
+        border.color: Glass.hudBorder
     }
 }

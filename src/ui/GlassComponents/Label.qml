@@ -21,7 +21,6 @@ Item {
     property alias horizontalAlignment: body.horizontalAlignment
     property alias lineHeight: body.lineHeight
     readonly property alias lineCount: body.lineCount
-    readonly property alias truncated: body.truncated
     property string spokenLabel: text
 
     readonly property int enlargement: Appearance.enlargement(size, Screen.devicePixelRatio)

@@ -8,7 +8,8 @@ import Kestrelfen
 ModalVeil {
     id: menu
 
-    /// Each is `{label, value}` with, as it may be, `checked`, `enabled: false` or, alone, `separator: true`.
+    /// Each is `{label, value}` with, as it may be, `symbol`, `checked`, `destructive: true`, `enabled: false` or, alone,
+    /// `separator: true`.
     required property var entries
     property string spokenLabel: ""
     property Item anchor: null

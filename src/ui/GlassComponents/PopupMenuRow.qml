@@ -10,14 +10,17 @@ Rectangle {
     readonly property bool isSeparator: entry.separator === true
     readonly property bool isSelectable: !isSeparator && entry.enabled !== false
     readonly property string spokenLabel: entry.label ?? ""
-    readonly property real naturalWidth: caption.implicitWidth + 40
+    readonly property bool isChosen: activeFocus || area.isDown
+    readonly property bool hasSymbol: (entry.symbol ?? "") !== ""
+    readonly property color ink: isChosen ? Glass.overProminent : entry.destructive === true ? Glass.danger : Glass.ink
+    readonly property real naturalWidth: caption.implicitWidth + caption.anchors.leftMargin + caption.anchors.rightMargin
 
     signal taken
     signal moved(int by)
 
     implicitHeight: isSeparator ? 9 : 26
     radius: 6
-    color: activeFocus || area.isDown ? Glass.prominent : "transparent"
+    color: isChosen ? Glass.prominent : "transparent"
     enabled: isSelectable
 
     Keys.forwardTo: [area]
@@ -48,23 +51,32 @@ Rectangle {
         text: "✓"
         size: 12
         weight: Font.DemiBold
-        color: caption.color
+        color: row.ink
         Accessible.ignored: true
+    }
+
+    Symbol {
+        x: row.LayoutMirroring.enabled ? row.width - width - 26 : 26
+        anchors.verticalCenter: parent.verticalCenter
+        visible: row.hasSymbol
+        name: row.entry.symbol ?? ""
+        size: 12
+        tint: row.ink
     }
 
     Label {
         id: caption
         anchors.left: parent.left
-        anchors.leftMargin: 26
+        anchors.leftMargin: row.hasSymbol ? 48 : 26
         anchors.right: parent.right
-        anchors.rightMargin: 12
+        anchors.rightMargin: 14
         anchors.verticalCenter: parent.verticalCenter
         visible: !row.isSeparator
         text: row.spokenLabel
         size: 12.5
         elide: Text.ElideRight
         opacity: row.isSelectable ? 1 : 0.4
-        color: row.activeFocus || area.isDown ? Glass.overProminent : Glass.ink
+        color: row.ink
         Accessible.ignored: true
     }
 

@@ -6,6 +6,8 @@ MouseArea {
     id: area
 
     required property Item control
+    /// Whether a click brings the keyboard here, as where one of several becomes the only stop.
+    property bool takesKeyboard: false
     property bool isKeyHeld: false
     readonly property bool isDown: containsPress || isKeyHeld
     readonly property bool hasKeyboard: control.activeFocus
@@ -20,7 +22,12 @@ MouseArea {
     }
 
     onHasKeyboardChanged: isKeyHeld = false
-    onClicked: area.activated()
+    onClicked: {
+        if (takesKeyboard) {
+            control.forceActiveFocus(Qt.MouseFocusReason);
+        }
+        area.activated();
+    }
 
     Keys.onPressed: event => {
         const isReturn = event.key === Qt.Key_Return || event.key === Qt.Key_Enter;

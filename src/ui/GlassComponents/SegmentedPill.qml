@@ -46,6 +46,7 @@ Rectangle {
         id: area
         anchors.fill: parent
         control: pill
+        takesKeyboard: true
         onActivated: pill.activated()
     }
 

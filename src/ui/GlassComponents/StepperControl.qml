@@ -10,6 +10,8 @@ Rectangle {
     property bool canDecrement: true
     property bool canIncrement: true
     property string spokenLabel: ""
+    property string decrementLabel: ""
+    property string incrementLabel: ""
 
     signal decrement
     signal increment
@@ -49,7 +51,7 @@ Rectangle {
 
         StepperButton {
             glyph: "−"
-            spokenLabel: "Decrease " + stepper.spokenLabel
+            spokenLabel: stepper.decrementLabel
             enabled: stepper.canDecrement
             onStepped: stepper.step(false)
         }
@@ -69,7 +71,7 @@ Rectangle {
 
         StepperButton {
             glyph: "+"
-            spokenLabel: "Increase " + stepper.spokenLabel
+            spokenLabel: stepper.incrementLabel
             enabled: stepper.canIncrement
             onStepped: stepper.step(true)
         }

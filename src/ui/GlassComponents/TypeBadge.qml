@@ -1,7 +1,7 @@
 import QtQuick
 import Kestrelfen
 
-/// A small coloured tag. What it stands in speaks for it.
+/// A small coloured tag.
 Rectangle {
     id: badge
 
@@ -12,6 +12,8 @@ Rectangle {
     implicitHeight: caption.implicitHeight + 6
     radius: 5
     color: Glass.faded(tint, 0.14)
+    Accessible.role: Accessible.StaticText
+    Accessible.name: text
 
     Label {
         id: caption

@@ -1,9 +1,9 @@
 #include "ui/PreBreakWarningView/PreBreakWarningContent.hpp"
 
 #include "core/BreakEngine.hpp"
+#include "core/WholeSeconds.hpp"
 
 #include <algorithm>
-#include <cmath>
 
 namespace kestrelfen {
 
@@ -30,7 +30,7 @@ PreBreakWarningContent PreBreakWarningContent::of(const BreakEngine& engine) {
     const double lead = engine.config().preBreakWarningLead;
     const bool canSnooze = engine.canSnooze();
     PreBreakWarningContent content;
-    content.counter = static_cast<std::int64_t>(std::ceil(left));
+    content.counter = WholeSeconds::roundedUp(left);
     content.title = "Break in " + std::to_string(content.counter) + " seconds";
     content.caption = "Find a stopping point. Dismissing keeps the break.";
     content.fraction = lead > 0 ? std::clamp(1.0 - left / lead, 0.0, 1.0) : 1.0;

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/ports/Platform.hpp"
+#include "ui/ChangeFollower.hpp"
 #include "ui/ControlListModel.hpp"
-#include "ui/EngineFollower.hpp"
 #include "ui/PreBreakWarningView/PreBreakWarningActions.hpp"
 #include "ui/PreBreakWarningView/PreBreakWarningContent.hpp"
 
@@ -51,7 +51,7 @@ class PreBreakWarningModel : public QObject {
     PreBreakWarningActions actions_;
     PreBreakWarningContent content_;
     ControlListModel controls_;
-    EngineFollower follower_;
+    ChangeFollower follower_;
 };
 
 } // namespace kestrelfen

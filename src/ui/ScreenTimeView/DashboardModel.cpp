@@ -145,6 +145,12 @@ std::optional<Date> DashboardModel::dayOf(int bar) const {
     return index < bars.size() ? std::optional(bars[index].summary.startOfDay) : std::nullopt;
 }
 
+/// A pointer that rested on a bar has lost it.
+void DashboardModel::hide() {
+    isShown_ = false;
+    dashboard_.setHoveredDay(std::nullopt);
+}
+
 void DashboardModel::hover(int bar) {
     dashboard_.setHoveredDay(dayOf(bar));
 }

@@ -2,8 +2,8 @@
 
 #include "core/BreakEngine.hpp"
 #include "screentime/ScreenTimeTracker.hpp"
+#include "ui/ChangeFollower.hpp"
 #include "ui/ControlListModel.hpp"
-#include "ui/EngineFollower.hpp"
 #include "ui/MainWindowSources.hpp"
 #include "ui/RowListModel.hpp"
 #include "ui/ScreenTimeView/Dashboard.hpp"
@@ -60,7 +60,7 @@ class DashboardModel : public QObject {
 
     /// Loads, and follows what changes, until it is hidden.
     Q_INVOKABLE void show();
-    Q_INVOKABLE void hide() { isShown_ = false; }
+    Q_INVOKABLE void hide();
 
     /// A click on the button with that key.
     Q_INVOKABLE void press(int key);
@@ -103,7 +103,7 @@ class DashboardModel : public QObject {
     std::unique_ptr<UsageDetailModel> detail_;
     bool isDetailUp_ = false;
     bool isShown_ = false;
-    EngineFollower follower_;
+    ChangeFollower follower_;
 };
 
 } // namespace kestrelfen

@@ -7,7 +7,6 @@
 #include "ui/Plural.hpp"
 
 #include <algorithm>
-#include <cmath>
 
 namespace kestrelfen {
 
@@ -24,7 +23,7 @@ std::string nextBreakHeadline(const BreakEngine& engine, const TimeFormat& timeF
 }
 
 std::string nextBreakSubhead(const BreakEngine& engine) {
-    return std::to_string(std::llround(std::ceil(engine.config().breakDuration))) +
+    return Formatters::wholeSeconds(engine.config().breakDuration) +
            " seconds, look 20 feet away. Held back during calls, video and idle time.";
 }
 

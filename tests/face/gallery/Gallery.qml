@@ -35,6 +35,7 @@ Item {
         title: "Clear 2 completed tasks?"
         message: "They are removed for good, with their counts of intervals. Breaks that were credited stay in the history."
         destructiveLabel: "Clear Completed"
+        cancelLabel: "Cancel"
         isOpen: gallery.sheet === "confirm"
     }
 

@@ -52,8 +52,8 @@ TEST_F(AccessibilityTest, whatIsDisabledCannotBeReachedOrPressed) {
 }
 
 TEST_F(AccessibilityTest, aStepperAtItsEndCannotBeSteppedFurther) {
-    show("StepperControl { property int ups: 0; value: '12'; spokenLabel: 'Every'; canIncrement: false; "
-         "onIncrement: ++ups }");
+    show("StepperControl { property int ups: 0; value: '12'; spokenLabel: 'Every'; "
+         "incrementLabel: 'Increase Every'; canIncrement: false; onIncrement: ++ups }");
     act(told(QAccessible::SpinBox, "Every"), QAccessibleActionInterface::increaseAction());
     act(told(QAccessible::Button, "Increase Every"), QAccessibleActionInterface::pressAction());
     EXPECT_EQ(count("ups"), 0);
@@ -70,7 +70,7 @@ TEST_F(AccessibilityTest, aSwitchTellsItsStateAndCanBeFlipped) {
 
 TEST_F(AccessibilityTest, aStepperTellsItsValueAndCanBeStepped) {
     show("StepperControl { property int ups: 0; property int downs: 0; value: '20 min'; spokenLabel: 'Work "
-         "interval'; "
+         "interval'; incrementLabel: 'Increase Work interval'; "
          "onIncrement: ++ups; onDecrement: ++downs }");
     QAccessibleInterface* const box = told(QAccessible::SpinBox, "Work interval");
     EXPECT_EQ(box->text(QAccessible::Description), "20 min");
@@ -127,7 +127,7 @@ TEST_F(AccessibilityTest, nothingIsToldTwice) {
 TEST_F(AccessibilityTest, aDialogIsADialogAndAMenuAMenu) {
     show(R"(Item {
         width: 400; height: 300
-        ConfirmDialog { title: "Clear?"; message: "Gone for good."; destructiveLabel: "Clear"; isOpen: true }
+        ConfirmDialog { title: "Clear?"; message: "Gone for good."; destructiveLabel: "Clear"; cancelLabel: "Cancel"; isOpen: true }
         PopupMenu { id: menu; spokenLabel: "Category"; entries: [{label: "Work", value: 1, checked: true}] }
         Component.onCompleted: menu.open(this)
     })");

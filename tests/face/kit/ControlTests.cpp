@@ -8,6 +8,7 @@ QString stepper(const QString& properties) {
         property int downs: 0
         property int ups: 0
         x: 20; y: 20; value: "5 min"; spokenLabel: "Long break"
+        decrementLabel: "Decrease Long break"; incrementLabel: "Increase Long break"
         onDecrement: ++downs
         onIncrement: ++ups
         )" +

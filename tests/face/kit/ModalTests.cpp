@@ -14,6 +14,7 @@ constexpr char dialog[] = R"(Item {
         ConfirmDialog {
             id: dialog
             title: "Clear?"; message: "They are gone for good."; destructiveLabel: "Clear"
+            cancelLabel: "Cancel"
             onConfirmed: ++confirms
             onCancelled: { ++cancels; isOpen = false }
         }
