@@ -1,8 +1,8 @@
 #include "Json.hpp"
 
 #include "base/CivilTime.hpp"
+#include "base/ParsedNumber.hpp"
 
-#include <charconv>
 #include <cmath>
 
 namespace kestrelfen {
@@ -10,13 +10,6 @@ namespace kestrelfen {
 namespace {
 
 constexpr double tolerance = 1e-6;
-
-std::optional<double> numberOf(const std::string& word) {
-    double number = 0;
-    const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), number);
-    const bool whole = error == std::errc() && end == word.data() + word.size();
-    return whole ? std::optional(number) : std::nullopt;
-}
 
 /// The keys and indices that are left; absent at the end of a path.
 using Rest = std::optional<std::string_view>;
@@ -48,12 +41,8 @@ Json valueInList(const Json& list, std::string_view path) {
     if (path == "count") {
         return list.size();
     }
-    std::size_t index = 0;
-    const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), index);
-    if (error != std::errc() || end != word.data() + word.size() || index >= list.size()) {
-        return nullptr;
-    }
-    return valueBehind(list[index], behind(path, word.size()));
+    const auto index = parsedNumber<std::size_t>(word);
+    return index && *index < list.size() ? valueBehind(list[*index], behind(path, word.size())) : nullptr;
 }
 
 Json valueBehind(const Json& json, Rest path) {
@@ -84,7 +73,7 @@ Json valueAt(const Json& json, std::string_view path) {
 
 bool matches(const Json& actual, const std::string& expected) {
     if (actual.is_number()) {
-        const auto number = numberOf(expected);
+        const auto number = parsedNumber<double>(expected);
         return number &&
                (*number == actual.get<double>() || std::abs(*number - actual.get<double>()) <= tolerance);
     }

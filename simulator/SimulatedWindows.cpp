@@ -7,7 +7,6 @@ namespace {
 class SimulatedWarningPanel final : public OverlayWindows::WarningPanel {
   public:
     int width() const override { return 288; }
-    int height() const override { return 74; }
     void moveTo(int /*x*/, int /*y*/) override {}
     void show() override {}
 };

@@ -1,22 +1,14 @@
 #include "Values.hpp"
 
 #include "ScenarioError.hpp"
+#include "base/ParsedNumber.hpp"
 
-#include <charconv>
 #include <cmath>
 #include <optional>
 
 namespace kestrelfen {
 
 namespace {
-
-template <typename Number>
-std::optional<Number> wholeNumber(std::string_view text) {
-    Number number{};
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    const bool whole = error == std::errc() && end == text.data() + text.size();
-    return whole ? std::optional(number) : std::nullopt;
-}
 
 bool areDigits(std::string_view text) {
     return !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
@@ -35,7 +27,7 @@ std::optional<std::int64_t> decimalMicroseconds(std::string_view text) {
         return std::nullopt;
     }
     fraction.resize(6, '0');
-    return wholeNumber<std::int64_t>((negative ? "-" : "") + std::string(whole) + fraction);
+    return parsedNumber<std::int64_t>((negative ? "-" : "") + std::string(whole) + fraction);
 }
 
 } // namespace
@@ -56,7 +48,7 @@ double secondsOf(const std::string& word) {
 }
 
 double realOf(const std::string& word) {
-    const auto number = wholeNumber<double>(word);
+    const auto number = parsedNumber<double>(word);
     if (number && std::isfinite(*number)) {
         return *number;
     }
@@ -64,7 +56,7 @@ double realOf(const std::string& word) {
 }
 
 std::int64_t integerOf(const std::string& word) {
-    if (const auto number = wholeNumber<std::int64_t>(word)) {
+    if (const auto number = parsedNumber<std::int64_t>(word)) {
         return *number;
     }
     throw ScenarioError(quoted(word) + " is not a whole number");

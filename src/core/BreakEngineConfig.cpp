@@ -13,21 +13,23 @@ constexpr std::int64_t usualLongBreakEvery = 4;
 constexpr std::int64_t leastLongBreakEvery = 2;
 constexpr std::int64_t leastLongBreakEveryInFastCycle = 1;
 
+std::int64_t longBreakEvery(const Preferences& preferences, std::int64_t least) {
+    return std::max(Settings::integer(preferences, "longBreakEvery", usualLongBreakEvery), least);
+}
+
 BreakEngineConfig fastCycle(const Preferences& preferences) {
-    const std::int64_t every = Settings::integer(preferences, "longBreakEvery", usualLongBreakEvery);
     return {.workInterval = 10.0,
             .breakDuration = 5.0,
             .longBreakDuration = 8.0,
-            .longBreakEvery = std::max(every, leastLongBreakEveryInFastCycle),
+            .longBreakEvery = longBreakEvery(preferences, leastLongBreakEveryInFastCycle),
             .preBreakWarningLead = 3.0};
 }
 
 BreakEngineConfig chosenCycle(const Preferences& preferences) {
-    const std::int64_t every = Settings::integer(preferences, "longBreakEvery", usualLongBreakEvery);
     return {.workInterval = Settings::real(preferences, "workIntervalSeconds", 1200.0),
             .breakDuration = Settings::real(preferences, "breakDurationSeconds", 20.0),
             .longBreakDuration = Settings::real(preferences, "longBreakDurationSeconds", 300.0),
-            .longBreakEvery = std::max(every, leastLongBreakEvery),
+            .longBreakEvery = longBreakEvery(preferences, leastLongBreakEvery),
             .preBreakWarningLead = Settings::real(preferences, "preBreakWarningLeadSeconds", 10.0)};
 }
 

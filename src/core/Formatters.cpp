@@ -1,30 +1,17 @@
 #include "core/Formatters.hpp"
 
-#include "base/Fault.hpp"
+#include "core/WholeSeconds.hpp"
 #include "platform/ports/Calendar.hpp"
 
 #include <algorithm>
-#include <cmath>
 #include <cstdio>
 
 namespace kestrelfen {
 
 namespace {
 
-std::int64_t whole(double rounded) {
-    constexpr double end = 9'223'372'036'854'775'808.0;
-    if (!(rounded >= -end && rounded < end)) {
-        fault("a number of seconds that cannot be written");
-    }
-    return static_cast<std::int64_t>(rounded);
-}
-
-std::int64_t nearest(double seconds) {
-    return whole(std::round(seconds));
-}
-
 std::int64_t upwardFromZero(double seconds) {
-    return std::max<std::int64_t>(whole(std::ceil(seconds)), 0);
+    return std::max<std::int64_t>(WholeSeconds::roundedUp(seconds), 0);
 }
 
 std::string paired(const char* format, std::int64_t first, std::int64_t second) {
@@ -44,7 +31,7 @@ std::string minutesAndSeconds(std::int64_t total, const char* secondsUnit) {
 } // namespace
 
 std::string Formatters::activeTime(double seconds) {
-    const std::int64_t total = std::max<std::int64_t>(nearest(seconds), 0);
+    const std::int64_t total = std::max<std::int64_t>(WholeSeconds::nearest(seconds), 0);
     if (total >= 3600) {
         return paired("%lld h %02lld m", total / 3600, total % 3600 / 60);
     }
@@ -52,7 +39,7 @@ std::string Formatters::activeTime(double seconds) {
 }
 
 std::string Formatters::duration(double seconds) {
-    return minutesAndSeconds(nearest(seconds), " s");
+    return minutesAndSeconds(WholeSeconds::nearest(seconds), " s");
 }
 
 std::string Formatters::countdown(double seconds) {
@@ -70,7 +57,7 @@ std::string Formatters::spelled(double seconds) {
 }
 
 std::string Formatters::wholeSeconds(double seconds) {
-    return std::to_string(whole(std::ceil(seconds)));
+    return std::to_string(WholeSeconds::roundedUp(seconds));
 }
 
 std::string Formatters::day(Date date, const Calendar& calendar) {

@@ -7,6 +7,8 @@
 
 namespace kestrelfen {
 
+class Preferences;
+
 /// How long history is kept; the raw value is in days, 0 for ever.
 enum class HistoryRetention : std::int64_t { days30 = 30, days90 = 90, year = 365, forever = 0 };
 
@@ -26,6 +28,9 @@ constexpr std::optional<HistoryRetention> historyRetention(std::int64_t rawValue
     }
     return std::nullopt;
 }
+
+/// The person's choice, a year where there is none that is offered.
+HistoryRetention chosenRetention(const Preferences& preferences);
 
 constexpr std::string_view label(HistoryRetention retention) {
     switch (retention) {

@@ -5,28 +5,38 @@
 
 namespace kestrelfen {
 
-bool isEnabledInSettings(PauseReason reason, const Preferences& preferences) {
+std::string_view enableKey(PauseReason reason) {
     switch (reason) {
     case PauseReason::manual:
-        return true;
-    case PauseReason::systemSleep:
-        return Settings::boolean(preferences, "pauseOnSystemSleep", true);
-    case PauseReason::screenLocked:
-        return Settings::boolean(preferences, "pauseOnScreenLock", true);
-    case PauseReason::displaySleep:
-        return Settings::boolean(preferences, "pauseOnDisplaySleep", true);
     case PauseReason::userIdle:
-        return current<IdleMode>(preferences) != IdleMode::off;
+        return {};
+    case PauseReason::systemSleep:
+        return "pauseOnSystemSleep";
+    case PauseReason::screenLocked:
+        return "pauseOnScreenLock";
+    case PauseReason::displaySleep:
+        return "pauseOnDisplaySleep";
     case PauseReason::meeting:
-        return Settings::boolean(preferences, "smartPauseMeetings", true);
+        return "smartPauseMeetings";
     case PauseReason::videoPlayback:
-        return Settings::boolean(preferences, "smartPauseVideo", true);
+        return "smartPauseVideo";
     case PauseReason::screenSharing:
-        return Settings::boolean(preferences, "smartPauseScreenSharing", true);
+        return "smartPauseScreenSharing";
     case PauseReason::focusApp:
-        return Settings::boolean(preferences, "smartPauseFocusApps", false);
+        return "smartPauseFocusApps";
     }
-    return false;
+    return {};
+}
+
+bool isEnabledInSettings(PauseReason reason, const Preferences& preferences) {
+    if (reason == PauseReason::manual) {
+        return true;
+    }
+    if (reason == PauseReason::userIdle) {
+        return current<IdleMode>(preferences) != IdleMode::off;
+    }
+    const bool isOnByDefault = reason != PauseReason::focusApp;
+    return Settings::boolean(preferences, enableKey(reason), isOnByDefault);
 }
 
 PauseKind pauseKind(PauseReason reason) {

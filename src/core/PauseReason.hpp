@@ -44,6 +44,9 @@ constexpr bool isSmart(PauseReason reason) {
            reason == PauseReason::screenSharing || reason == PauseReason::focusApp;
 }
 
+/// The key of the preference that allows this kind of pause; empty where none says yes or no to it.
+std::string_view enableKey(PauseReason reason);
+
 /// Whether the person allows this kind of pause.
 bool isEnabledInSettings(PauseReason reason, const Preferences& preferences);
 

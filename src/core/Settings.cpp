@@ -1,6 +1,6 @@
 #include "core/Settings.hpp"
 
-#include <charconv>
+#include "base/ParsedNumber.hpp"
 
 namespace kestrelfen {
 
@@ -15,11 +15,7 @@ std::optional<std::int64_t> Settings::activeTaskID(const Preferences& preference
     if (!data) {
         return std::nullopt;
     }
-    const std::string json(data->begin(), data->end());
-    std::int64_t identifier = 0;
-    const auto [end, error] = std::from_chars(json.data(), json.data() + json.size(), identifier);
-    const bool whole = error == std::errc() && end == json.data() + json.size();
-    return whole ? std::optional(identifier) : std::nullopt;
+    return parsedNumber<std::int64_t>(std::string(data->begin(), data->end()));
 }
 
 void Settings::setActiveTaskID(Preferences& preferences, std::optional<std::int64_t> identifier) {

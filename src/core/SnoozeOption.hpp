@@ -7,6 +7,8 @@
 
 namespace kestrelfen {
 
+class Preferences;
+
 /// The lengths of a snooze that are offered; the raw value is in minutes.
 enum class SnoozeOption : std::int64_t { one = 1, three = 3, five = 5 };
 
@@ -30,6 +32,9 @@ constexpr std::optional<SnoozeOption> snoozeOption(std::int64_t rawValue) {
     }
     return std::nullopt;
 }
+
+/// The seconds of a snooze for which no length is asked, offered or not.
+double chosenSnoozeSeconds(const Preferences& preferences);
 
 /// "Snooze 3 minutes".
 std::string spokenLabel(SnoozeOption option);

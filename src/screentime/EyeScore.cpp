@@ -1,7 +1,8 @@
 #include "screentime/EyeScore.hpp"
 
-#include "base/Fault.hpp"
 #include "platform/ports/Calendar.hpp"
+#include "screentime/DaysByStart.hpp"
+#include "screentime/Share.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -26,29 +27,13 @@ bool counts(const DaySummary& day) {
     return breaksOf(day) >= 1 || day.activeSeconds > 0;
 }
 
-double stretchPoints(double longestStretch, double target) {
-    if (!(target > 0 && longestStretch > 0)) {
-        return stretchWeight;
-    }
-    return stretchWeight * std::clamp(2.0 - longestStretch / target, 0.0, 1.0);
-}
-
-double shareOf(std::int64_t part, std::int64_t whole) {
-    return whole == 0 ? 0.0 : static_cast<double>(part) / static_cast<double>(whole);
-}
-
+/// Of several that begin on one date the latest.
 using DaysByDate = std::map<CivilDay, const DaySummary*>;
 
 DaysByDate daysByDate(const std::vector<DaySummary>& days, const Calendar& calendar) {
     DaysByDate result;
-    for (const DaySummary& day : days) {
-        const DaySummary*& place = result[calendar.civilTime(day.startOfDay).day];
-        if (place && place->startOfDay == day.startOfDay) {
-            fault("two summaries of one day");
-        }
-        if (!place || place->startOfDay < day.startOfDay) {
-            place = &day;
-        }
+    for (const auto& [start, day] : daysByStart(days)) {
+        result[calendar.civilTime(start).day] = day;
     }
     return result;
 }
@@ -86,9 +71,9 @@ EyeScore EyeScore::make(const std::vector<DaySummary>& days, double longestStret
         return result;
     }
     result.keptRatio = shareOf(kept, total);
-    result.score = std::llround(result.keptRatio * keptWeight +
-                                shareOf(result.daysWithinTarget, result.daysCounted) * withinTargetWeight +
-                                stretchPoints(longestStretch, targets.stretch));
+    result.score =
+        std::llround(result.keptRatio * keptWeight + result.withinTargetShare() * withinTargetWeight +
+                     result.stretchShare() * stretchWeight);
     return result;
 }
 
@@ -118,6 +103,17 @@ EyeScore::Band EyeScore::band() const {
         return Band::good;
     }
     return score >= lowestFairScore ? Band::fair : Band::needsWork;
+}
+
+double EyeScore::withinTargetShare() const {
+    return shareOf(daysWithinTarget, daysCounted);
+}
+
+double EyeScore::stretchShare() const {
+    if (!(stretchTarget > 0 && longestStretch > 0)) {
+        return 1.0;
+    }
+    return std::clamp(2.0 - longestStretch / stretchTarget, 0.0, 1.0);
 }
 
 std::string_view label(EyeScore::Band band) {

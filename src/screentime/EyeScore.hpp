@@ -42,6 +42,11 @@ struct EyeScore {
 
     Band band() const;
 
+    /// The days within their target of the days counted.
+    double withinTargetShare() const;
+    /// 1 for a longest stretch up to its target, falling to 0 at twice that.
+    double stretchShare() const;
+
     friend bool operator==(const EyeScore&, const EyeScore&) = default;
 };
 

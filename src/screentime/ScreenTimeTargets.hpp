@@ -1,15 +1,16 @@
 #pragma once
 
 #include "core/Settings.hpp"
+#include "screentime/Hour.hpp"
 
 namespace kestrelfen {
 
 /// What a day and a stretch of work are measured against, in seconds. No control changes them.
 struct ScreenTimeTargets {
     /// For the screen time of one day.
-    double day = 18'000.0;
+    double day = 5 * secondsPerHour;
     /// For the longest stretch between two breaks.
-    double stretch = 3'600.0;
+    double stretch = secondsPerHour;
 
     static ScreenTimeTargets current(const Preferences& preferences) {
         constexpr ScreenTimeTargets fallback;

@@ -67,7 +67,8 @@ class ScreenTimeTracker {
     /// Brings the day's stored total.
     void hydrate(std::function<void()> completion = {});
 
-    /// Writes what is pending. Completes when this and every flush begun earlier has been written.
+    /// Writes what is pending. Completes when this and every flush begun earlier have been written; it does
+    /// not wait for later ones.
     void flush(std::function<void()> completion = {});
 
     /// Closes the day and begins the one that starts at `dayStart`.

@@ -1,9 +1,9 @@
+#include "core/WholeSeconds.hpp"
 #include "platform/ports/StandardOutput.hpp"
 #include "screentime/ScreenTimeTracker.hpp"
 #include "store/KestrelfenStore.hpp"
 
 #include <algorithm>
-#include <cmath>
 #include <iterator>
 #include <numeric>
 
@@ -45,7 +45,7 @@ struct ScreenTimeTracker::Batch {
         const double sum =
             std::accumulate(buckets.begin(), buckets.end(), 0.0,
                             [](double total, const auto& each) { return total + each.seconds; });
-        return static_cast<std::int64_t>(std::max(std::ceil(sum), 0.0));
+        return std::max<std::int64_t>(WholeSeconds::roundedUp(sum), 0);
     }
 };
 

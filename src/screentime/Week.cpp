@@ -1,42 +1,29 @@
 #include "screentime/Week.hpp"
 
-#include "base/Fault.hpp"
 #include "platform/ports/Calendar.hpp"
+#include "screentime/DaysByStart.hpp"
+#include "screentime/Hour.hpp"
+#include "screentime/Share.hpp"
 
 #include <algorithm>
 #include <cmath>
-#include <map>
 
 namespace kestrelfen {
 
 namespace {
 
 constexpr int daysBeforeToday = 6;
-constexpr double hour = 3'600.0;
-
-using DaysByStart = std::map<Date, DaySummary>;
-
-DaysByStart daysByStart(const std::vector<DaySummary>& days) {
-    DaysByStart result;
-    for (const DaySummary& day : days) {
-        if (!result.emplace(day.startOfDay, day).second) {
-            fault("two summaries of one day");
-        }
-    }
-    return result;
-}
 
 std::optional<double> keptShare(std::int64_t completed, std::int64_t skipped) {
     const std::int64_t total = completed + skipped;
-    return total < 1 ? std::nullopt
-                     : std::optional(static_cast<double>(completed) / static_cast<double>(total));
+    return total < 1 ? std::nullopt : std::optional(shareOf(completed, total));
 }
 
 Week::Bar barOn(Date startOfDay, const DaysByStart& stored) {
     const auto found = stored.find(startOfDay);
     Week::Bar bar;
     if (found != stored.end()) {
-        bar.summary = found->second;
+        bar.summary = *found->second;
     }
     bar.summary.startOfDay = startOfDay;
     return bar;
@@ -109,8 +96,8 @@ double Week::scaleTop(const ScreenTimeTargets& targets) const {
     for (const Bar& bar : bars_) {
         peak = std::max(peak, bar.summary.activeSeconds);
     }
-    const double hours = std::max(peak, targets.day) / hour;
-    return hours <= 1 ? hour : std::ceil(hours) * hour;
+    const double hours = std::max(peak, targets.day) / secondsPerHour;
+    return hours <= 1 ? secondsPerHour : std::ceil(hours) * secondsPerHour;
 }
 
 } // namespace kestrelfen

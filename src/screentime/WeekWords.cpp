@@ -1,8 +1,8 @@
 #include "screentime/WeekWords.hpp"
 
 #include "core/Formatters.hpp"
+#include "screentime/Hour.hpp"
 
-#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -13,7 +13,6 @@ namespace {
 
 constexpr std::string_view dash = "—";
 constexpr double slippingKeptRatio = 0.65;
-constexpr double hour = 3'600.0;
 constexpr double minute = 60.0;
 
 std::string percent(double share) {
@@ -32,25 +31,11 @@ std::string rounded(double number) {
     return fixed(std::round(number) + withoutMinusZero, 0);
 }
 
-double withinTargetShare(const EyeScore& score) {
-    return score.daysCounted == 0
-               ? 0.0
-               : static_cast<double>(score.daysWithinTarget) / static_cast<double>(score.daysCounted);
-}
-
-double stretchFraction(const EyeScore& score) {
-    if (!(score.longestStretch > 0)) {
-        return 0;
-    }
-    return score.stretchTarget > 0 ? std::clamp(2.0 - score.longestStretch / score.stretchTarget, 0.0, 1.0)
-                                   : 1.0;
-}
-
 ScoreMeter stretchMeter(const EyeScore& score) {
     const bool isLong = score.longestStretch > score.stretchTarget;
     return {"Longest stretch, " + targetLabel(score.stretchTarget) + " target",
             score.longestStretch > 0 ? Formatters::activeTime(score.longestStretch) : std::string(dash),
-            stretchFraction(score), isLong ? "amber" : "accent"};
+            score.longestStretch > 0 ? score.stretchShare() : 0.0, isLong ? "amber" : "accent"};
 }
 
 std::string withinTargetText(const EyeScore& score) {
@@ -77,7 +62,7 @@ std::string_view keptTint(std::optional<double> share, bool isToday) {
 }
 
 std::string targetLabel(double seconds) {
-    const double hours = seconds / hour;
+    const double hours = seconds / secondsPerHour;
     if (hours >= 1) {
         return fixed(hours, hours == std::floor(hours) ? 0 : 1) + "h";
     }
@@ -101,7 +86,7 @@ std::string suggestion(const EyeScore& score, const ScreenTimeTargets& targets, 
         return "You kept " + percent(score.keptRatio) +
                " of your breaks this week. Postponing beats skipping — the break still happens.";
     }
-    if (withinTargetShare(score) < 1.0) {
+    if (score.withinTargetShare() < 1.0) {
         return std::to_string(score.daysCounted - score.daysWithinTarget) + " of " +
                std::to_string(score.daysCounted) + " days ran past your " + targetLabel(targets.day) +
                " target.";
@@ -114,7 +99,7 @@ std::array<ScoreMeter, 3> scoreMeters(const EyeScore& score) {
     return {{{"Breaks kept", hasData ? percent(score.keptRatio) : std::string(dash), score.keptRatio},
              stretchMeter(score),
              {"Days within target", hasData ? withinTargetText(score) : std::string(dash),
-              withinTargetShare(score)}}};
+              score.withinTargetShare()}}};
 }
 
 } // namespace kestrelfen

@@ -93,6 +93,8 @@ void BrowserScripting::awaitRunning(Browser browser, int looks, const Permission
     }));
 }
 
+/// What determinePermission does, but that only the system's own question leaves the main thread: what is
+/// installed is asked there alone, and this object may end while the person makes up their mind.
 void BrowserScripting::requestPermissionOffMain(Browser browser, const PermissionCompletion& completion) {
     if (!isInstalled(browser, platform_.applications)) {
         completion(AutomationPermission::notInstalled);

@@ -1,7 +1,5 @@
 #include "sensing/SmartPauseLists.hpp"
 
-#include "core/Settings.hpp"
-
 #include <algorithm>
 #include <array>
 #include <cstddef>
@@ -10,40 +8,26 @@ namespace kestrelfen {
 
 namespace {
 
-struct Choice {
-    std::string_view enableKey;
-    bool isEnabledByDefault;
-    std::string_view listKey;
-};
-
 /// In case order.
-constexpr std::array<Choice, EnumerationTable<SmartPauseKind>::rows.size()> choices{{
-    {"smartPauseMeetings", true, "meetingAppBundleIDs"},
-    {"smartPauseVideo", true, "videoAppBundleIDs"},
-    {"smartPauseScreenSharing", true, "captureAppBundleIDs"},
-    {"smartPauseFocusApps", false, "focusAppBundleIDs"},
-}};
-
-const Choice& choice(SmartPauseKind kind) {
-    return choices[static_cast<std::size_t>(kind)];
-}
+constexpr std::array<std::string_view, EnumerationTable<SmartPauseKind>::rows.size()> listKeys{
+    "meetingAppBundleIDs", "videoAppBundleIDs", "captureAppBundleIDs", "focusAppBundleIDs"};
 
 } // namespace
 
 std::string_view SmartPauseLists::enableKey(SmartPauseKind kind) {
-    return choice(kind).enableKey;
+    return kestrelfen::enableKey(pauseReason(kind));
 }
 
 std::string_view SmartPauseLists::listKey(SmartPauseKind kind) {
-    return choice(kind).listKey;
+    return listKeys[static_cast<std::size_t>(kind)];
 }
 
 bool SmartPauseLists::isEnabled(SmartPauseKind kind, const Preferences& preferences) {
-    return Settings::boolean(preferences, enableKey(kind), choice(kind).isEnabledByDefault);
+    return isEnabledInSettings(pauseReason(kind), preferences);
 }
 
 const PreferenceStrings& SmartPauseLists::defaultBundleIDs(SmartPauseKind kind) {
-    static const std::array<PreferenceStrings, choices.size()> lists{{
+    static const std::array<PreferenceStrings, listKeys.size()> lists{{
         {"us.zoom.xos", "com.microsoft.teams", "com.microsoft.teams2", "com.cisco.webexmeetingsapp",
          "com.apple.FaceTime", "com.tinyspeck.slackmacgap", "com.hnc.Discord", "com.skype.skype"},
         {"com.apple.Safari", "com.google.Chrome", "org.mozilla.firefox", "com.brave.Browser",

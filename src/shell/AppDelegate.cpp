@@ -4,7 +4,6 @@
 #include "core/Settings.hpp"
 #include "platform/ports/Clock.hpp"
 #include "platform/ports/InterfaceAppearance.hpp"
-#include "platform/ports/MainQueue.hpp"
 #include "platform/ports/NotificationAuthorization.hpp"
 #include "platform/ports/Preferences.hpp"
 #include "sensing/DockPresence.hpp"
@@ -33,11 +32,6 @@ InterfaceStyle styleOf(AppAppearance appearance) {
 }
 
 } // namespace
-
-template <typename Closure>
-void AppDelegate::queueTask(Closure closure) {
-    platform_.mainQueue.post(lifeline_.guard(std::move(closure)));
-}
 
 AppDelegate::AppDelegate(const Platform& platform, const StoreConfiguration& storeConfiguration,
                          OverlayWindows& windows)

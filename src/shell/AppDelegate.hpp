@@ -5,6 +5,7 @@
 #include "core/AppAppearance.hpp"
 #include "core/BreakEngine.hpp"
 #include "platform/ports/ActivationPolicy.hpp"
+#include "platform/ports/MainQueue.hpp"
 #include "platform/ports/Platform.hpp"
 #include "screentime/ScreenTimeTracker.hpp"
 #include "sensing/BrowserScripting.hpp"
@@ -17,6 +18,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <utility>
 #include <vector>
 
 namespace kestrelfen {
@@ -71,7 +73,9 @@ class AppDelegate {
 
     /// A closure that runs one turn of the main queue later, unless the delegate has gone.
     template <typename Closure>
-    void queueTask(Closure closure);
+    void queueTask(Closure closure) {
+        platform_.mainQueue.post(lifeline_.guard(std::move(closure)));
+    }
 
     const Platform platform_;
     OverlayWindows& windows_;

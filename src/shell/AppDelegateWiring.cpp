@@ -1,5 +1,4 @@
 #include "core/Settings.hpp"
-#include "platform/ports/MainQueue.hpp"
 #include "shell/AppDelegate.hpp"
 
 namespace kestrelfen {
@@ -7,10 +6,10 @@ namespace kestrelfen {
 void AppDelegate::wireScreenTime() {
     engine().onTick = lifeline_.guard([this](Date date) { handleTick(date); });
     engine().onDayRollover = lifeline_.guard([this](Date dayStart) {
-        platform_.mainQueue.post(lifeline_.guard([this, dayStart] {
+        queueTask([this, dayStart] {
             screenTime().handleRollover(dayStart,
                                         lifeline_.guard([this, dayStart] { pruneHistoryIfDue(dayStart); }));
-        }));
+        });
     });
     engine().onWorkIntervalCompleted = lifeline_.guard([this] { creditActiveTask(); });
 }
@@ -33,11 +32,11 @@ void AppDelegate::creditActiveTask() {
     if (!task) {
         return;
     }
-    platform_.mainQueue.post(lifeline_.guard([this, task] {
+    queueTask([this, task] {
         if (store_) {
             store_->creditBreak(*task, {});
         }
-    }));
+    });
 }
 
 /// Hears of one change and is then armed again from the queue; the second look catches a change that fell
@@ -45,11 +44,11 @@ void AppDelegate::creditActiveTask() {
 void AppDelegate::observeEngineState() {
     stateObservation_ = engine().observeState(lifeline_.guard([this] {
         stateObservation_.cancel();
-        platform_.mainQueue.post(lifeline_.guard([this] {
+        queueTask([this] {
             syncOverlayPresentation();
             observeEngineState();
             syncOverlayPresentation();
-        }));
+        });
     }));
 }
 
@@ -67,7 +66,7 @@ void AppDelegate::syncOverlayPresentation() {
     case BreakState::Case::paused:
         overlays().hideWarning();
         removeBreakWindows();
-        platform_.mainQueue.post(lifeline_.guard([this] { screenTime().flush({}); }));
+        queueTask([this] { screenTime().flush({}); });
         return;
     case BreakState::Case::preBreakWarning:
         if (Settings::boolean(platform_.preferences, "warningHUDEnabled", true)) {

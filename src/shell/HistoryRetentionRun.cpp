@@ -1,9 +1,9 @@
 #include "shell/HistoryRetentionRun.hpp"
 
 #include "core/HistoryRetention.hpp"
-#include "core/Settings.hpp"
 #include "platform/ports/Calendar.hpp"
 #include "platform/ports/Log.hpp"
+#include "platform/ports/Preferences.hpp"
 #include "store/KestrelfenStore.hpp"
 
 namespace kestrelfen {
@@ -11,12 +11,6 @@ namespace kestrelfen {
 namespace {
 
 constexpr const char* lastPrunedKey = "lastPrunedDayStart";
-
-HistoryRetention chosenRetention(const Preferences& preferences) {
-    const auto year = HistoryRetention::year;
-    return historyRetention(Settings::integer(preferences, "historyRetentionDays", days(year)))
-        .value_or(year);
-}
 
 } // namespace
 

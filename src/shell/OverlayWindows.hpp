@@ -20,9 +20,8 @@ class OverlayWindows {
       public:
         virtual ~WarningPanel() = default;
 
-        /// The size that the card's own layout has given it, in logical pixels.
+        /// The width that the card's own layout has given it, in logical pixels.
         virtual int width() const = 0;
-        virtual int height() const = 0;
 
         virtual void moveTo(int x, int y) = 0;
 

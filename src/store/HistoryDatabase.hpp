@@ -12,6 +12,7 @@
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Transaction.h>
 
+#include <optional>
 #include <unordered_map>
 #include <vector>
 
@@ -78,6 +79,8 @@ class HistoryDatabase {
 
     SQLite::Statement& statement(const char* sql);
 
+    /// The identifier of the day's row, if there is one.
+    std::optional<std::int64_t> fetchDay(Date dayStart);
     std::int64_t findOrMakeDay(Date dayStart);
     void addAppSeconds(const ActiveTimeEntry& entry, std::int64_t day);
     DaySummary summaryOfDay(Date dayStart);

@@ -1,6 +1,7 @@
 #include "store/HistoryDatabase.hpp"
 
 #include <algorithm>
+#include <string>
 
 namespace kestrelfen {
 
@@ -10,6 +11,15 @@ DaySummary daySummary(const Query& row) {
     return {row.date(0), row.integer(1), row.integer(2), row.real(3), row.real(4), row.integer(5)};
 }
 
+/// The statement for the summaries of the days that `days` selects, the newest first. It is bound to the raw
+/// value of a skipped break, then to what `days` asks for.
+std::string summariesOf(const std::string& days) {
+    return "SELECT startOfDay, breaksCompleted, breaksSkipped, activeSeconds, pausedSeconds, "
+           "(SELECT count(*) FROM BreakRecord WHERE day = Day.id AND isLong AND outcomeRawValue <> ?) "
+           "FROM (" +
+           days + ") AS Day ORDER BY startOfDay DESC, id";
+}
+
 } // namespace
 
 DaySummary HistoryDatabase::summary(Date dayStart) {
@@ -17,24 +27,25 @@ DaySummary HistoryDatabase::summary(Date dayStart) {
     return summaryOfDay(dayStart);
 }
 
+/// The days are searched from the newest on: what is asked for or written belongs to today, as a rule.
+std::optional<std::int64_t> HistoryDatabase::fetchDay(Date dayStart) {
+    Query row = query("SELECT id FROM DayRecord WHERE startOfDay = ? ORDER BY id DESC LIMIT 1", dayStart);
+    return row.next() ? std::optional(row.integer(0)) : std::nullopt;
+}
+
 DaySummary HistoryDatabase::summaryOfDay(Date dayStart) {
-    Query row = query("SELECT startOfDay, breaksCompleted, breaksSkipped, activeSeconds, pausedSeconds, "
-                      "(SELECT count(*) FROM BreakRecord WHERE day = DayRecord.id AND isLong AND "
-                      "outcomeRawValue <> 'skipped') "
-                      "FROM DayRecord WHERE startOfDay = ? ORDER BY id DESC LIMIT 1",
-                      dayStart);
+    static const std::string sql = summariesOf("SELECT * FROM DayRecord WHERE id = ?");
+    const auto day = fetchDay(dayStart);
+    Query row = query(sql.c_str(), rawValue(BreakOutcome::skipped), day);
     return row.next() ? daySummary(row) : DaySummary{.startOfDay = dayStart};
 }
 
 // The days are chosen before their long breaks are counted.
 std::vector<DaySummary> HistoryDatabase::summaries(Date since) {
+    static const std::string sql = summariesOf("SELECT * FROM DayRecord WHERE startOfDay >= ? "
+                                               "ORDER BY startOfDay DESC, id LIMIT 366");
     beginReading();
-    Query row = query("SELECT startOfDay, breaksCompleted, breaksSkipped, activeSeconds, pausedSeconds, "
-                      "(SELECT count(*) FROM BreakRecord WHERE day = Day.id AND isLong AND "
-                      "outcomeRawValue <> 'skipped') "
-                      "FROM (SELECT * FROM DayRecord WHERE startOfDay >= ? ORDER BY startOfDay DESC, id "
-                      "LIMIT 366) AS Day ORDER BY startOfDay DESC, id",
-                      since);
+    Query row = query(sql.c_str(), rawValue(BreakOutcome::skipped), since);
     std::vector<DaySummary> result;
     while (row.next()) {
         result.push_back(daySummary(row));
@@ -45,9 +56,8 @@ std::vector<DaySummary> HistoryDatabase::summaries(Date since) {
 std::vector<AppUsageSummary> HistoryDatabase::appUsage(Date dayStart, std::int64_t limit) {
     beginReading();
     Query row = query("SELECT bundleIdentifier, displayName, displayID, activeSeconds FROM AppUsageRecord "
-                      "WHERE day = (SELECT id FROM DayRecord WHERE startOfDay = ? ORDER BY id DESC LIMIT 1) "
-                      "ORDER BY activeSeconds DESC, id LIMIT ?",
-                      dayStart, limit);
+                      "WHERE day = ? ORDER BY activeSeconds DESC, id LIMIT ?",
+                      fetchDay(dayStart), limit);
     std::vector<AppUsageSummary> result;
     while (row.next()) {
         result.push_back({row.text(0), row.text(1), row.integer(2), row.real(3)});
@@ -57,10 +67,9 @@ std::vector<AppUsageSummary> HistoryDatabase::appUsage(Date dayStart, std::int64
 
 std::vector<WebsiteUsageSummary> HistoryDatabase::websiteUsage(Date dayStart, std::int64_t limit) {
     beginReading();
-    Query row = query("SELECT domain, activeSeconds FROM WebsiteUsageRecord "
-                      "WHERE day = (SELECT id FROM DayRecord WHERE startOfDay = ? ORDER BY id DESC LIMIT 1) "
+    Query row = query("SELECT domain, activeSeconds FROM WebsiteUsageRecord WHERE day = ? "
                       "ORDER BY activeSeconds DESC, id LIMIT ?",
-                      dayStart, limit);
+                      fetchDay(dayStart), limit);
     std::vector<WebsiteUsageSummary> result;
     while (row.next()) {
         result.push_back({row.text(0), row.real(1)});
@@ -71,9 +80,8 @@ std::vector<WebsiteUsageSummary> HistoryDatabase::websiteUsage(Date dayStart, st
 double HistoryDatabase::longestStretch(Date dayStart, Date now) {
     beginReading();
     Query row = query("SELECT startedAt, actualSeconds FROM BreakRecord "
-                      "WHERE day = (SELECT id FROM DayRecord WHERE startOfDay = ? ORDER BY id DESC LIMIT 1) "
-                      "AND outcomeRawValue <> 'skipped' ORDER BY startedAt, id",
-                      dayStart);
+                      "WHERE day = ? AND outcomeRawValue <> ? ORDER BY startedAt, id",
+                      fetchDay(dayStart), rawValue(BreakOutcome::skipped));
     if (!row.next()) {
         return 0;
     }

@@ -80,11 +80,9 @@ void HistoryDatabase::addWebsiteTime(const WebsiteTimeEntry& entry) {
     transaction.commit();
 }
 
-/// The days are searched from the newest on: what is written belongs to today, as a rule.
 std::int64_t HistoryDatabase::findOrMakeDay(Date dayStart) {
-    Query found = query("SELECT id FROM DayRecord WHERE startOfDay = ? ORDER BY id DESC LIMIT 1", dayStart);
-    if (found.next()) {
-        return found.integer(0);
+    if (const auto day = fetchDay(dayStart)) {
+        return *day;
     }
     query("INSERT INTO DayRecord (startOfDay) VALUES (?)", dayStart).run();
     return connection_.getLastInsertRowid();

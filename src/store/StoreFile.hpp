@@ -5,7 +5,8 @@
 
 namespace kestrelfen {
 
-/// The store's file as the file system sees it. Belongs to one thread; throws std::system_error.
+/// The store's file as the file system sees it. Belongs to one thread. Throws std::runtime_error,
+/// as std::system_error where the file system refuses.
 class StoreFile {
   public:
     explicit StoreFile(std::filesystem::path path) : path_(std::move(path)) {}

@@ -30,8 +30,11 @@ TEST_F(LoggingTest, TheFastCyclesLongBreakLastsEightSeconds) {
     prefer("debugFastCycle", true);
     prefer("longBreakEvery", 2);
     start();
-    run(25);
+    run(24);
     forget();
+    run(1);
+    EXPECT_EQ(happened(), lines({"08:00:25 log long break 8 s → ends 08:00",
+                                 "08:00:25 stdout [Kestrelfen] 08:00:25 long break 8 s → ends 08:00"}));
     run(8);
     EXPECT_EQ(engine().breaksCompletedToday(), 2);
     EXPECT_EQ(history.breaks().at(1).plannedSeconds, 8.0);

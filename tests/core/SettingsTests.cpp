@@ -1,4 +1,6 @@
+#include "core/HistoryRetention.hpp"
 #include "core/Settings.hpp"
+#include "core/SnoozeOption.hpp"
 #include "platform/fake/FakePreferences.hpp"
 
 #include <gtest/gtest.h>
@@ -119,6 +121,28 @@ TEST(SettingsActiveTaskID, ValueThatIsNoDataReadsAsNothing) {
     EXPECT_EQ(Settings::activeTaskID(preferences), std::nullopt);
     preferences.set("activeTaskID", "42");
     EXPECT_EQ(Settings::activeTaskID(preferences), std::nullopt);
+}
+
+TEST(Settings, TheSnoozeWithoutALengthLastsFiveMinutesOrWhatIsStored) {
+    FakePreferences preferences;
+    EXPECT_EQ(chosenSnoozeSeconds(preferences), 300.0);
+    for (const double stored : {60.0, 61.5, 0.0}) {
+        preferences.set("snoozeDurationSeconds", stored);
+        EXPECT_EQ(chosenSnoozeSeconds(preferences), stored);
+    }
+}
+
+TEST(Settings, HistoryIsKeptForAYearUnlessAnOfferedTimeIsStored) {
+    FakePreferences preferences;
+    EXPECT_EQ(chosenRetention(preferences), HistoryRetention::year);
+    for (const HistoryRetention retention : historyRetentions) {
+        preferences.set("historyRetentionDays", days(retention));
+        EXPECT_EQ(chosenRetention(preferences), retention);
+    }
+    for (const std::int64_t stored : {-1, 1, 31, 366}) {
+        preferences.set("historyRetentionDays", stored);
+        EXPECT_EQ(chosenRetention(preferences), HistoryRetention::year) << stored;
+    }
 }
 
 } // namespace

@@ -121,6 +121,7 @@ TEST(PauseReasons, EachIsEnabledByItsOwnKeyAndFallback) {
     };
     for (const EnabledRow& row : rows) {
         FakePreferences preferences;
+        EXPECT_EQ(enableKey(row.reason), row.key);
         EXPECT_EQ(isEnabledInSettings(row.reason, preferences), row.fallback) << row.key;
         preferences.set(row.key, !row.fallback);
         for (const PauseReason reason : allCases<PauseReason>()) {
@@ -132,11 +133,13 @@ TEST(PauseReasons, EachIsEnabledByItsOwnKeyAndFallback) {
 }
 
 TEST(PauseReasons, ManualIsAlwaysEnabled) {
+    EXPECT_EQ(enableKey(PauseReason::manual), "");
     EXPECT_TRUE(isEnabledInSettings(PauseReason::manual, FakePreferences()));
 }
 
 TEST(PauseReasons, UserIdleIsEnabledUnlessTheModeIsOff) {
     FakePreferences preferences;
+    EXPECT_EQ(enableKey(PauseReason::userIdle), "");
     EXPECT_TRUE(isEnabledInSettings(PauseReason::userIdle, preferences));
     preferences.set("pauseOnIdle", false);
     EXPECT_FALSE(isEnabledInSettings(PauseReason::userIdle, preferences));

@@ -1,6 +1,7 @@
 #include "core/Settings.hpp"
 #include "face/FaceTest.hpp"
 #include "ui/MainWindowView/MainWindowModel.hpp"
+#include "ui/OnboardingView/OnboardingModel.hpp"
 
 #include <QTest>
 
@@ -15,7 +16,10 @@ class MainWindowTest : public FaceTest {
         model_ = std::make_unique<MainWindowModel>(
             MainWindowSources{delegate_.engine(), delegate_.screenTime(), delegate_.store(),
                               delegate_.router(), scenes_},
-            machine_.ports(), MainWindowModel::MakeOnboarding());
+            machine_.ports(), [this] {
+                return std::make_unique<OnboardingModel>(machine_.ports(),
+                                                         [this] { delegate_.finishOnboarding(); });
+            });
         view_ = views_.make(QStringLiteral("MainWindowView.qml"),
                             {{"model", QVariant::fromValue<QObject*>(model_.get())}});
         view_->setResizeMode(QQuickView::SizeRootObjectToView);
@@ -271,6 +275,23 @@ TEST_F(MainWindowTest, usageDetailThatWasAskedForElsewhereIsTaken) {
     EXPECT_EQ(delegate_.router().pendingUsageDetail(), std::nullopt);
     pressKey(Qt::Key_Escape);
     EXPECT_FALSE(texts().contains(QStringLiteral("Usage Detail")));
+}
+
+TEST_F(MainWindowTest, welcomeIsShownAgainWhenItIsWishedFromOutside) {
+    open();
+    EXPECT_EQ(model_->onboarding(), nullptr);
+    for (int round = 0; round < 2; ++round) {
+        machine_.preferences.set("hasCompletedOnboarding", false);
+        settle();
+        expectTexts({"Welcome to Kestrelfen", "Use the Defaults — 20 / 20 / 5"});
+        EXPECT_FALSE(texts().contains(QStringLiteral("Screen Time")));
+        click(view_.get(), QStringLiteral("Use the Defaults — 20 / 20 / 5"));
+        settle();
+        expectTexts({"Screen Time", "Breaks", "Tasks"});
+        EXPECT_FALSE(texts().contains(QStringLiteral("Welcome to Kestrelfen")));
+        EXPECT_EQ(model_->onboarding(), nullptr);
+    }
+    EXPECT_EQ(Settings::boolean(machine_.preferences, "hasCompletedOnboarding", false), true);
 }
 
 TEST_F(MainWindowTest, holdsUpAtItsSmallest) {

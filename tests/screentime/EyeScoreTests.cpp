@@ -233,5 +233,12 @@ TEST_F(Streak, TwoSummariesOfOneDayAreAFault) {
     EXPECT_DEATH(EyeScore::streak({day, day}, at("15:00:00"), 0.8, calendar), "two summaries of one day");
 }
 
+TEST_F(Streak, TwoSummariesOfOneDayAreAFaultAlsoWithALaterOneOfTheSameDateBetween) {
+    const DaySummary day{.startOfDay = at("00:00:00"), .breaksCompleted = 1};
+    const DaySummary later{.startOfDay = at("05:00:00"), .breaksCompleted = 1};
+    EXPECT_DEATH(EyeScore::streak({day, later, day}, at("15:00:00"), 0.8, calendar),
+                 "two summaries of one day");
+}
+
 } // namespace
 } // namespace kestrelfen

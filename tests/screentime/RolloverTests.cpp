@@ -121,5 +121,22 @@ TEST_F(TrackerRolloverTest, TheRhythmAndTheLastAppOutliveTheDay) {
                                  "2026-03-10 00:00:20 flush 1 0"}));
 }
 
+TEST_F(TrackerRolloverTest, WithNothingPendingTheDayTurnsOnlyOnceAFlushUnderWayIsWritten) {
+    run(9);
+    tracker->flush();
+    EXPECT_EQ(pending(), "");
+    rollOver();
+    EXPECT_EQ(happened(), "");
+    EXPECT_EQ(tracker->dayStart(), at("00:00:00"));
+    EXPECT_EQ(tracker->todayActiveSeconds(), 9);
+    settle();
+    EXPECT_EQ(happened(), lines({"2026-03-10 00:00:00 log info ScreenTime: flushed 1 bucket(s)",
+                                 "2026-03-10 00:00:00 flush 1 0", "2026-03-10 00:00:00 rolled over"}));
+    EXPECT_EQ(tracker->dayStart(), at(newDay));
+    EXPECT_EQ(tracker->todayActiveSeconds(), 0);
+    EXPECT_EQ(storedOld(), lines({"active: 9", "org.editor 'Editor' 1: 9"}));
+    EXPECT_EQ(storedNew(), lines({"active: 0"}));
+}
+
 } // namespace
 } // namespace kestrelfen

@@ -1,7 +1,14 @@
+#include "platform/fake/FakeClock.hpp"
+#include "platform/fake/FakeLog.hpp"
+#include "platform/fake/FakeMainQueue.hpp"
 #include "platform/fake/FakePreferences.hpp"
+#include "platform/posix/JsonPreferences.hpp"
 #include "sensing/AppCategory.hpp"
+#include "support/TemporaryFolder.hpp"
 
 #include <gtest/gtest.h>
+
+#include <fstream>
 
 namespace kestrelfen {
 namespace {
@@ -136,6 +143,31 @@ TEST_F(AppCategoryTest, ADamagedValueReadsAsNoOverridesUntilTheNextWrite) {
     EXPECT_FALSE(hasOverride("com.apple.Terminal", preferences));
     setCategory(AppCategory::media, "com.apple.Terminal", preferences);
     EXPECT_EQ(storedOverrides(), (PreferenceDictionary{{"com.apple.Terminal", "media"}}));
+}
+
+TEST(AppCategoryFile, OneValueThatIsNoTextMakesAllReadAsNoOverridesUntilTheNextWrite) {
+    const TemporaryFolder folder;
+    const auto file = folder / "preferences.json";
+    std::ofstream(file) << R"({"appCategoryOverrides":
+        {"com.apple.Terminal": "media", "org.example.one": 5, "org.example.two": "work"}})";
+    FakeClock clock;
+    FakeMainQueue queue(clock);
+    FakeLog log;
+    JsonPreferences preferences(file, log, queue);
+    EXPECT_EQ(resolveCategory("com.apple.Terminal", preferences), AppCategory::work) << "as suggested";
+    EXPECT_EQ(resolveCategory("org.example.two", preferences), AppCategory::other);
+    for (const char* const identifier : {"com.apple.Terminal", "org.example.one", "org.example.two"}) {
+        EXPECT_FALSE(hasOverride(identifier, preferences)) << identifier;
+    }
+    setCategory(AppCategory::browsing, "com.apple.Notes", preferences);
+    queue.drain();
+    const JsonPreferences reread(file, log, queue);
+    const PreferenceDictionary written{{"com.apple.Notes", "browsing"}};
+    for (const JsonPreferences* const each :
+         std::initializer_list<const JsonPreferences*>{&preferences, &reread}) {
+        ASSERT_NE(each->dictionary(overridesKey), nullptr);
+        EXPECT_EQ(*each->dictionary(overridesKey), written);
+    }
 }
 
 } // namespace

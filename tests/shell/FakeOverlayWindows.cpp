@@ -31,7 +31,6 @@ class FakeWarningPanel final : public OverlayWindows::WarningPanel {
     ~FakeWarningPanel() override { trace_.add("card goes"); }
 
     int width() const override { return 420; }
-    int height() const override { return 170; }
     void moveTo(int x, int y) override {
         trace_.add("card at " + std::to_string(x) + ", " + std::to_string(y));
     }

@@ -1,5 +1,6 @@
 #include "platform/fake/FakePlatform.hpp"
 #include "sensing/SmartPauseLists.hpp"
+#include "ui/AppListEditor/AppListContent.hpp"
 #include "ui/AppListEditor/AppListEditor.hpp"
 #include "ui/AppListEditor/SmartPauseWords.hpp"
 
@@ -141,6 +142,23 @@ TEST_F(AppListEditorTest, RestoringDefaultsReloadsEvenWhereNothingChanges) {
     meetings.restoreDefaults();
     EXPECT_EQ(meetings.ids().front().name, "Zoom");
     EXPECT_EQ(told(meetings.runningChoices()), "Beta=b");
+}
+
+TEST_F(AppListEditorTest, SheetTellsItsTexts) {
+    using Row = AppListContent::Row;
+    list({"a"});
+    run("a", "Alpha");
+    run("b", "Beta");
+    const AppListContent content = AppListContent::of(editor());
+    EXPECT_EQ(content.title, "Deep Focus Apps");
+    EXPECT_EQ(content.sentence, "Apps that mean you're in deep focus");
+    EXPECT_EQ(content.listed, (std::vector<Row>{{"a", "Alpha", "Remove Alpha"}}));
+    EXPECT_EQ(content.choices, (std::vector<Row>{{"b", "Beta", "Add Beta"}}));
+    EXPECT_EQ(AppListContent::emptyText, "No apps yet.");
+    EXPECT_EQ(AppListContent::addHeading, "Add a running app");
+    EXPECT_EQ(AppListContent::nothingToAddText, "Everything running is already listed.");
+    EXPECT_EQ(AppListContent::restoreButton, "Restore Defaults");
+    EXPECT_EQ(AppListContent::doneButton, "Done");
 }
 
 TEST_F(AppListEditorTest, TellsOfChanges) {

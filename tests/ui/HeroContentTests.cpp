@@ -38,6 +38,12 @@ TEST_F(HeroContentTest, BeforeALongBreakTheSubheadStillTellsTheShortOnes) {
               "21 seconds, look 20 feet away. Held back during calls, video and idle time.");
 }
 
+TEST_F(HeroContentTest, BreakWhoseLengthCannotBeWrittenIsAFault) {
+    prefer("breakDurationSeconds", 1e300);
+    start();
+    EXPECT_DEATH(content(), "a number of seconds that cannot be written");
+}
+
 TEST_F(HeroContentTest, Warning) {
     enterWarning(9.5);
     const auto shown = content();

@@ -55,6 +55,10 @@ TEST_F(HistoryDataActionsTest, SayNothingAtFirst) {
     EXPECT_EQ(actions().deletionMessage(), std::nullopt);
 }
 
+TEST_F(HistoryDataActionsTest, ExportProposesAName) {
+    EXPECT_STREQ(HistoryDataActions::proposedFileName, "Kestrelfen-history.csv");
+}
+
 TEST_F(HistoryDataActionsTest, ExportWritesTheHistoryAndNamesTheFile) {
     recordPauseOn("2026-03-09 07:00:00");
     exportTo("/home/me/My history.csv");

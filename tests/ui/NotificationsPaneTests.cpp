@@ -70,6 +70,18 @@ TEST_F(NotificationsPaneTest, PreviewsTellTheDayAndTheLeadRoundedUp) {
     EXPECT_EQ(content().notes().at(1), "1 breaks, 1 skipped, honest screen time for the day.");
 }
 
+TEST_F(NotificationsPaneTest, LeadThatCannotBeWrittenIsAFault) {
+    prefer("preBreakWarningLeadSeconds", 1e300);
+    start();
+    EXPECT_DEATH(content(), "a number of seconds that cannot be written");
+}
+
+TEST_F(NotificationsPaneTest, PreviewsAreSpokenWhole) {
+    const PaneBlock previews = content().blocks.at(0);
+    EXPECT_EQ(NotificationPreview::title, "Kestrelfen");
+    EXPECT_EQ(previews.previews.at(0).spoken(), "Kestrelfen, now: Break in 10 seconds — look 20 feet away.");
+}
+
 TEST_F(NotificationsPaneTest, SwitchesAndPillsWriteTheirKeys) {
     choose("warningHUDEnabled", "false");
     choose("dailySummaryEnabled", "false");

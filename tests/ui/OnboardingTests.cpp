@@ -65,6 +65,13 @@ TEST_F(OnboardingTest, CadenceOffersThePresetsAndThreeRows) {
     EXPECT_EQ(platform.preferences.all().size(), 0U);
 }
 
+TEST_F(OnboardingTest, WhatCannotBeSeenIsSpoken) {
+    EXPECT_EQ(content().spokenPage, "Page 1 of 2");
+    onboarding.setUp();
+    EXPECT_EQ(content().spokenPage, "Page 2 of 2");
+    EXPECT_EQ(content().presets.at(0).spokenDetail(), "30 / 20, min work / sec break");
+}
+
 TEST_F(OnboardingTest, CycleIsSpelledUpToTheFourth) {
     struct Case {
         std::int64_t every;

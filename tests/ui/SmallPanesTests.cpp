@@ -16,13 +16,15 @@ TEST(SettingsRail, NamesThePanesInOrder) {
         labels += std::string(SettingsRail::label(pane)) + "\n";
     }
     EXPECT_EQ(SettingsRail::heading, "Settings");
-    EXPECT_EQ(SettingsRail::footer("1.0.0", "1"), "v1.0.0 (1)\napp.kestrelfen.mac");
+    EXPECT_EQ(SettingsRail::version("1.0.0", "1"), "v1.0.0 (1)");
+    EXPECT_EQ(SettingsRail::identifier, "app.kestrelfen.mac");
     EXPECT_EQ(labels,
               "Timing\nEnforcement\nSmart Pause\nPausing\nWebsite Stats\nNotifications\nAppearance\nAbout\n");
 }
 
 TEST(AppearancePane, TellsEachCard) {
     const FakePreferences preferences;
+    EXPECT_FALSE(AppearancePane::content(preferences).hasMark);
     EXPECT_EQ(
         paneText(AppearancePane::content(preferences)),
         "Appearance\n"
@@ -32,6 +34,13 @@ TEST(AppearancePane, TellsEachCard) {
         "  Light / Always the light palette / card\n"
         "  Dark / Always the dark palette / card\n"
         "text / Applied to the whole app, so the break overlays and the menu bar popover follow it too.\n");
+}
+
+TEST(AppearancePane, EachCardIsAMode) {
+    const FakePreferences preferences;
+    for (const PaneRow& row : AppearancePane::content(preferences).rows()) {
+        EXPECT_EQ(std::get<CardState>(row.control).eyebrow, "Mode");
+    }
 }
 
 TEST(AppearancePane, CardIsWrittenAndSelected) {
@@ -47,7 +56,8 @@ TEST(AppearancePane, CardIsWrittenAndSelected) {
     }
 }
 
-TEST(AboutPane, IsTwoLines) {
+TEST(AboutPane, IsTwoLinesUnderTheMark) {
+    EXPECT_TRUE(AboutPane::content().hasMark);
     EXPECT_EQ(paneText(AboutPane::content()),
               "Kestrelfen\n"
               "A 20-20-20 eye-break timer that reads the wall clock, pauses itself when you step away, and "

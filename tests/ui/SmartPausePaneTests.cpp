@@ -41,6 +41,10 @@ TEST_F(SmartPausePaneTest, TellsEachRow) {
     EXPECT_EQ(platform.preferences.all().size(), 0U);
 }
 
+TEST_F(SmartPausePaneTest, ButtonsAreNamedAfterTheirRow) {
+    EXPECT_EQ(content().rows().at(1).spokenButton, "Configure Video Playback");
+}
+
 TEST_F(SmartPausePaneTest, CaptionCountsTheApps) {
     platform.preferences.set("focusAppBundleIDs", PreferenceStrings{"a"});
     platform.preferences.set("meetingAppBundleIDs", PreferenceStrings{});
@@ -56,6 +60,12 @@ TEST_F(SmartPausePaneTest, StatusTellsWhatIsDetectedAndWhere) {
     platform.audioProcesses.setRecording({"us.zoom.xos"});
     sample();
     EXPECT_EQ(status(), "accent: Meetings or Calls detected — Zoom");
+}
+
+TEST_F(SmartPausePaneTest, StatusWithoutAnAppNamesTheKindAlone) {
+    EXPECT_EQ(SmartPausePane::status(SmartPauseKind::video, std::nullopt), "Video Playback detected");
+    EXPECT_EQ(SmartPausePane::status(SmartPauseKind::video, "Player"), "Video Playback detected — Player");
+    EXPECT_EQ(SmartPausePane::status(std::nullopt, "Player"), "Nothing detected right now");
 }
 
 TEST_F(SmartPausePaneTest, WithoutAudioOfEachProcessItSaysSo) {

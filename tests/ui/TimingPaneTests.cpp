@@ -51,6 +51,13 @@ TEST_F(TimingPaneTest, TellsEachLength) {
     EXPECT_EQ(preferences.all().size(), 0U);
 }
 
+TEST_F(TimingPaneTest, MinusAndPlusAreNamedAfterTheirRow) {
+    const auto rows = TimingPane::content(preferences, launchAtLogin).rows();
+    const auto& stepper = std::get<StepperState>(rows.at(1).control);
+    EXPECT_EQ(stepper.decrementLabel, "Decrease Short break");
+    EXPECT_EQ(stepper.incrementLabel, "Increase Short break");
+}
+
 TEST_F(TimingPaneTest, LengthsAreWrittenAsMinutesAndSeconds) {
     preferences.set("workIntervalSeconds", 90.0);
     preferences.set("breakDurationSeconds", std::int64_t{75});

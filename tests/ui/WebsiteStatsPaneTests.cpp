@@ -116,6 +116,21 @@ TEST_F(WebsiteStatsPaneTest, DeniedBrowserStaysOnAndOffersTheSettings) {
                       "<Open Settings> / on");
 }
 
+TEST_F(WebsiteStatsPaneTest, DeniedBrowserStaysOnUntilItIsAllowedAndReloaded) {
+    const std::string denied =
+        "Chrome / amber: Denied in System Settings › Privacy & Security › Automation / "
+        "<Open Settings> / on";
+    permit(Browser::chrome, Permission::denied);
+    platform.preferences.set("websiteStats.chrome", true);
+    stats->reload();
+    EXPECT_EQ(row(0), denied);
+    permit(Browser::chrome, Permission::granted);
+    EXPECT_EQ(row(0), denied);
+    stats->reload();
+    EXPECT_EQ(row(0), "Chrome / Allowed — reading the current domain / on");
+    EXPECT_TRUE(isStored(Browser::chrome));
+}
+
 TEST_F(WebsiteStatsPaneTest, ClosedBrowserIsOpenedToAsk) {
     permit(Browser::arc, Permission::notRunning);
     stats->reload();

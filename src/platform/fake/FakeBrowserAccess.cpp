@@ -55,6 +55,9 @@ std::optional<BrowserAccess::ScriptResult> FakeBrowserAccess::run(std::string_vi
 }
 
 std::optional<int> FakeBrowserAccess::permissionStatus(std::string_view bundleIdentifier, bool askUser) {
+    if (onPermission) {
+        onPermission(std::string(bundleIdentifier));
+    }
     if (askUser && onAskUser) {
         onAskUser(std::string(bundleIdentifier));
     }

@@ -16,6 +16,8 @@ class FakeBrowserAccess final : public BrowserAccess {
   public:
     /// Hears of every script that really runs, before its answer.
     std::function<void(const std::string& bundleIdentifier)> onScript;
+    /// Hears of every question for a permission.
+    std::function<void(const std::string& bundleIdentifier)> onPermission;
     /// Hears of every question that the person is to answer.
     std::function<void(const std::string& bundleIdentifier)> onAskUser;
     std::function<void()> onRelease;

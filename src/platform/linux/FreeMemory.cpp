@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
+#include <optional>
 #include <string>
 #include <sys/mman.h>
 
@@ -19,26 +20,47 @@ void returnFreeMemory() {
 #endif
 }
 
-void releaseCode() {
-    std::ifstream maps("/proc/self/smaps");
+namespace {
+
+struct Mapping {
     std::uintptr_t begin = 0;
     std::uintptr_t end = 0;
+    /// Private, of a file, and never to be written. What is compiled while the program runs lies in no file.
     bool isFixedPartOfFile = false;
+};
+
+std::optional<Mapping> mappingOf(const std::string& line) {
+    Mapping mapping;
+    char access[5] = "";
+    if (std::sscanf(line.c_str(), "%" SCNxPTR "-%" SCNxPTR " %4s", &mapping.begin, &mapping.end, access) !=
+        3) {
+        return std::nullopt;
+    }
+    mapping.isFixedPartOfFile =
+        access[1] == '-' && access[3] == 'p' && line.find(" /") != std::string::npos &&
+        line.find("memfd:") == std::string::npos && line.find("(deleted)") == std::string::npos;
+    return mapping;
+}
+
+bool isNothing(const std::string& line) {
+    return line.find(" 0 kB") != std::string::npos;
+}
+
+} // namespace
+
+void releaseCode() {
+    std::ifstream maps("/proc/self/smaps");
+    Mapping mapping;
+    bool wasWritten = false;
     for (std::string line; std::getline(maps, line);) {
-        std::uintptr_t from = 0;
-        std::uintptr_t to = 0;
-        char access[5] = "";
-        if (std::sscanf(line.c_str(), "%" SCNxPTR "-%" SCNxPTR " %4s", &from, &to, access) == 3) {
-            begin = from;
-            end = to;
-            // Private and never to be written. What is compiled while the program runs lies in no file.
-            isFixedPartOfFile =
-                access[1] == '-' && access[3] == 'p' && line.find(" /") != std::string::npos &&
-                line.find("memfd:") == std::string::npos && line.find("(deleted)") == std::string::npos;
-        } else if (isFixedPartOfFile && line.starts_with("Private_Dirty:") &&
-                   line.find(" 0 kB") != std::string::npos) {
-            // Nothing was ever written there, so that nothing can be lost.
-            ::madvise(reinterpret_cast<void*>(begin), end - begin, MADV_DONTNEED);
+        if (const auto next = mappingOf(line)) {
+            mapping = *next;
+            wasWritten = false;
+        } else if (line.starts_with("Private_Dirty:") || line.starts_with("Anonymous:")) {
+            wasWritten = wasWritten || !isNothing(line);
+        } else if (line.starts_with("Swap:") && mapping.isFixedPartOfFile && !wasWritten && isNothing(line)) {
+            // Nothing was ever written there, be it in memory or swapped out, so that nothing can be lost.
+            ::madvise(reinterpret_cast<void*>(mapping.begin), mapping.end - mapping.begin, MADV_DONTNEED);
         }
     }
 }

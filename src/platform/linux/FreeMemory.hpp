@@ -6,8 +6,8 @@ namespace kestrelfen {
 void returnFreeMemory();
 
 /// Lets go of the code and the constants that were needed until now and may not be needed again, of this
-/// program, its libraries and its fonts. They stay in the system's cache, from where what is needed comes back
-/// by itself. Takes about a millisecond.
+/// program, its libraries and its fonts. They stay in the system's cache, from where what is needed comes
+/// back by itself. Takes about a millisecond.
 void releaseCode();
 
 } // namespace kestrelfen

@@ -37,9 +37,6 @@ class LinuxSession {
     LinuxSession(const LinuxSession&) = delete;
     LinuxSession& operator=(const LinuxSession&) = delete;
 
-    /// Whether a Wayland compositor is in charge.
-    bool isWayland() const { return wayland_.has_value(); }
-
     /// Absent at times or for ever, but never null: GNOME's service may come later.
     std::unique_ptr<InputIdle> makeInputIdle();
 

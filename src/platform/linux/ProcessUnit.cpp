@@ -1,5 +1,7 @@
 #include "platform/linux/ProcessUnit.hpp"
 
+#include "base/ParsedNumber.hpp"
+
 #include <algorithm>
 #include <charconv>
 
@@ -42,13 +44,6 @@ std::string withoutEscapes(std::string_view text) {
     return result;
 }
 
-std::optional<std::int32_t> number(std::string_view digits) {
-    std::int32_t value = 0;
-    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
-    const bool isWhole = error == std::errc() && end == digits.data() + digits.size();
-    return isWhole ? std::optional(value) : std::nullopt;
-}
-
 /// app[-LAUNCHER]-ID-NUMBER.scope and app[-LAUNCHER]-ID[@WORD].service; dashes within a part are escaped.
 std::optional<ProcessUnit> applicationUnit(std::string_view unit) {
     constexpr std::string_view beginning = "app-";
@@ -61,7 +56,7 @@ std::optional<ProcessUnit> applicationUnit(std::string_view unit) {
     result.kind = unit.starts_with(flatpak) ? ProcessUnit::Kind::flatpak : ProcessUnit::Kind::application;
     if (unit.ends_with(scopeEnding)) {
         unit.remove_suffix(scopeEnding.size());
-        result.mainProcess = number(lastPart(unit));
+        result.mainProcess = parsedNumber<std::int32_t>(lastPart(unit));
         unit = unit.substr(0, unit.rfind('-'));
     } else if (unit.ends_with(serviceEnding)) {
         unit.remove_suffix(serviceEnding.size());

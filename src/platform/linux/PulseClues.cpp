@@ -1,6 +1,7 @@
 #include "platform/linux/PulseClues.hpp"
 
-#include <charconv>
+#include "base/ParsedNumber.hpp"
+
 #include <initializer_list>
 #include <string_view>
 
@@ -24,11 +25,8 @@ std::string firstText(const pa_proplist& properties, std::initializer_list<const
 }
 
 std::optional<std::int32_t> processNumber(const pa_proplist& properties, const char* key) {
-    const std::string_view digits = text(properties, key);
-    std::int32_t number = 0;
-    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
-    const bool isWhole = error == std::errc() && end == digits.data() + digits.size();
-    return isWhole && number > 0 ? std::optional(number) : std::nullopt;
+    const auto number = parsedNumber<std::int32_t>(text(properties, key));
+    return number && *number > 0 ? number : std::nullopt;
 }
 
 std::optional<std::int32_t> processNumber(const pa_proplist& properties) {

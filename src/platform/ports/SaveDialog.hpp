@@ -5,7 +5,7 @@
 
 namespace kestrelfen {
 
-/// Lets the person choose where to write a file. Main thread only.
+/// Lets the person choose where to write a file of comma-separated values. Main thread only.
 class SaveDialog {
   public:
     using Chosen = std::function<void(const std::string& path)>;

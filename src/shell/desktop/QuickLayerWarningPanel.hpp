@@ -18,7 +18,6 @@ class QuickLayerWarningPanel final : public QObject, public OverlayWindows::Warn
                            LayerSurfaces& layers);
 
     int width() const override { return static_cast<int>(scene_.root().implicitWidth()); }
-    int height() const override { return static_cast<int>(scene_.root().implicitHeight()); }
     /// On the main display; the desktop itself knows which that is, and where its panels are.
     void moveTo(int x, int y) override;
     void show() override;
@@ -28,6 +27,7 @@ class QuickLayerWarningPanel final : public QObject, public OverlayWindows::Warn
     void drag(double x, double y);
 
   private:
+    int height() const { return static_cast<int>(scene_.root().implicitHeight()); }
     void place();
 
     const Displays& displays_;

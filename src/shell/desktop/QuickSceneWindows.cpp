@@ -21,7 +21,7 @@ QuickSceneWindows::QuickSceneWindows(QuickViews& views, Desktop desktop)
     : views_(views), desktop_(std::move(desktop)) {}
 
 QuickSceneWindows::~QuickSceneWindows() {
-    closeAll();
+    windows_.clear();
 }
 
 std::vector<std::string> QuickSceneWindows::identifiers() const {
@@ -54,10 +54,6 @@ void QuickSceneWindows::open(Scene scene) {
     view->show();
     desktop_.raise(*view);
     windows_.push_back({scene, std::move(model), std::move(view)});
-}
-
-void QuickSceneWindows::closeAll() {
-    windows_.clear();
 }
 
 void QuickSceneWindows::forgetClosed() {

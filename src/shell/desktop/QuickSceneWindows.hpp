@@ -52,8 +52,6 @@ class QuickSceneWindows final : public QObject, public SceneWindows {
     void bringToFront(std::size_t index) override;
     void open(Scene scene) override;
 
-    void closeAll();
-
   private slots:
     void forgetClosed();
 

@@ -20,7 +20,6 @@ class QuickWarningPanel final : public QObject, public OverlayWindows::WarningPa
     QuickWarningPanel(BreakEngine& engine, const Platform& platform, QuickViews& views, bool blended);
 
     int width() const override { return view_->width(); }
-    int height() const override { return view_->height(); }
     void moveTo(int x, int y) override { view_->setPosition(x, y); }
     void show() override;
 

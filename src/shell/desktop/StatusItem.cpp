@@ -53,7 +53,7 @@ StatusItem::StatusItem(TrayIcon& tray) : tray_(tray) {
 
 void StatusItem::follow(BreakEngine& engine, MainQueue& queue) {
     engine_ = &engine;
-    follower_ = std::make_unique<EngineFollower>(queue, [this] { refresh(); });
+    follower_ = std::make_unique<ChangeFollower>(queue, [this] { refresh(); });
     follower_->keep(engine.observe(follower_->listener()));
     refresh();
 }

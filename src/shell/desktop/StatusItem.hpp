@@ -3,7 +3,7 @@
 #include "core/BreakEngine.hpp"
 #include "platform/ports/StatusBarButton.hpp"
 #include "platform/ports/TrayIcon.hpp"
-#include "ui/EngineFollower.hpp"
+#include "ui/ChangeFollower.hpp"
 
 #include <functional>
 #include <memory>
@@ -33,7 +33,7 @@ class StatusItem final : public StatusBarButton {
 
     TrayIcon& tray_;
     BreakEngine* engine_ = nullptr;
-    std::unique_ptr<EngineFollower> follower_;
+    std::unique_ptr<ChangeFollower> follower_;
     std::optional<std::string_view> symbol_;
     std::string text_;
     std::string announced_;

@@ -3,11 +3,26 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Kestrelfen
 
-/// The applications that are in the list, and those that could be.
+/// The applications that are in the list, and those that could be. Whoever moves them by the keyboard finds it at what
+/// comes next.
 Column {
     id: column
 
     required property AppListModel editor
+    readonly property var texts: editor ? editor.texts : {}
+
+    /// Nothing is left here that could have it.
+    signal keyboardLost
+
+    function passKeyboard(rows: Repeater, index: int): void {
+        const next = rows.itemAt(Math.min(index, rows.count - 1));
+        const stop = (next as ListedAppRow)?.remover ?? next;
+        if (stop) {
+            stop.forceActiveFocus(Qt.TabFocusReason);
+        } else {
+            column.keyboardLost();
+        }
+    }
 
     Repeater {
         id: listed
@@ -17,13 +32,22 @@ Column {
 
             width: column.width
             isLast: index === listed.count - 1
-            onRemoved: column.editor.remove(bundleID)
+            onRemoved: {
+                const place = index;
+                const hadKeyboard = remover.activeFocus;
+                column.editor.remove(bundleID);
+                if (hadKeyboard) {
+                    column.passKeyboard(listed, place);
+                }
+            }
         }
     }
 
     Label {
+        anchors.left: parent.left
+        anchors.leftMargin: 8
         visible: listed.count === 0
-        text: "No apps yet."
+        text: column.texts.empty ?? ""
         size: 12.5
         color: Glass.faint
     }
@@ -34,8 +58,9 @@ Column {
     }
 
     Eyebrow {
-        x: 8
-        text: "Add a running app"
+        anchors.left: parent.left
+        anchors.leftMargin: 8
+        text: column.texts.addHeading ?? ""
     }
 
     Item {
@@ -47,15 +72,25 @@ Column {
         id: running
         model: column.editor ? column.editor.runningChoices : null
         delegate: RunningAppRow {
+            required property int index
+
             width: column.width
-            onAdded: column.editor.add(bundleID)
+            onAdded: {
+                const place = index;
+                const hadKeyboard = activeFocus;
+                column.editor.add(bundleID);
+                if (hadKeyboard) {
+                    column.passKeyboard(running, place);
+                }
+            }
         }
     }
 
     Label {
-        x: 8
+        anchors.left: parent.left
+        anchors.leftMargin: 8
         visible: running.count === 0
-        text: "Everything running is already listed."
+        text: column.texts.nothingToAdd ?? ""
         size: 12.5
         color: Glass.faint
     }

@@ -8,6 +8,7 @@ SheetCard {
     id: sheet
 
     required property AppListModel editor
+    readonly property var texts: editor ? editor.texts : {}
 
     signal done
 
@@ -16,6 +17,11 @@ SheetCard {
     sheetHeight: head.height + 16 + list.height + 20 + doneButton.height + 48
     spokenLabel: editor ? editor.title : ""
     onDismissed: sheet.done()
+    Window.onActiveChanged: {
+        if (Window.active && sheet.editor) {
+            sheet.editor.reload();
+        }
+    }
     onOpened: doneButton.forceActiveFocus(Qt.OtherFocusReason)
 
     Column {
@@ -24,6 +30,7 @@ SheetCard {
         spacing: 4
 
         Label {
+            width: parent.width
             text: sheet.spokenLabel
             size: 16
             weight: Font.DemiBold
@@ -50,13 +57,14 @@ SheetCard {
         AppListColumn {
             width: list.width
             editor: sheet.editor
+            onKeyboardLost: doneButton.forceActiveFocus(Qt.TabFocusReason)
         }
     }
 
     SecondaryAction {
         anchors.left: parent.left
         anchors.bottom: parent.bottom
-        label: "Restore Defaults"
+        label: sheet.texts.restore ?? ""
         onClicked: sheet.editor.restoreDefaults()
     }
 
@@ -64,7 +72,7 @@ SheetCard {
         id: doneButton
         anchors.right: parent.right
         anchors.bottom: parent.bottom
-        label: "Done"
+        label: sheet.texts.done ?? ""
         onClicked: sheet.done()
     }
 }

@@ -1,7 +1,6 @@
 #include "ui/AppListEditor/AppListModel.hpp"
 
 #include "platform/ports/Preferences.hpp"
-#include "ui/AppListEditor/SmartPauseWords.hpp"
 #include "ui/ShownText.hpp"
 
 #include <map>
@@ -10,16 +9,18 @@ namespace kestrelfen {
 
 namespace {
 
-const QStringList roles{"bundleID", "name"};
+const QStringList roles{"bundleID", "name", "spokenAction"};
 
 /// An identifier that stands in the list more than once has several rows.
-std::vector<KeyedListModel::Row> keyed(const std::vector<AppListEditor::App>& apps) {
+std::vector<KeyedListModel::Row> keyed(const std::vector<AppListContent::Row>& apps) {
     std::map<std::string, int> counts;
     std::vector<KeyedListModel::Row> rows;
     for (const auto& app : apps) {
         const QString bundleID = QString::fromStdString(app.bundleID);
         rows.push_back({bundleID + "/" + QString::number(counts[app.bundleID]++),
-                        {{"bundleID", bundleID}, {"name", QString::fromStdString(app.name)}}});
+                        {{"bundleID", bundleID},
+                         {"name", QString::fromStdString(app.name)},
+                         {"spokenAction", QString::fromStdString(app.spokenAction)}}});
     }
     return rows;
 }
@@ -35,16 +36,25 @@ AppListModel::AppListModel(const Platform& platform, SmartPauseKind kind)
 }
 
 QString AppListModel::title() const {
-    return shownText(std::string_view(SmartPauseWords::of(editor_.kind()).title));
+    return shownText(std::string_view(AppListContent::of(editor_).title));
 }
 
 QString AppListModel::sentence() const {
-    return shownText(std::string_view(SmartPauseWords::of(editor_.kind()).sentence));
+    return shownText(std::string_view(AppListContent::of(editor_).sentence));
+}
+
+QVariantMap AppListModel::texts() const {
+    return {{"empty", shownText(AppListContent::emptyText)},
+            {"addHeading", shownText(AppListContent::addHeading)},
+            {"nothingToAdd", shownText(AppListContent::nothingToAddText)},
+            {"restore", shownText(AppListContent::restoreButton)},
+            {"done", shownText(AppListContent::doneButton)}};
 }
 
 void AppListModel::refresh() {
-    ids_.assign(keyed(editor_.ids()));
-    runningChoices_.assign(keyed(editor_.runningChoices()));
+    const AppListContent content = AppListContent::of(editor_);
+    ids_.assign(keyed(content.listed));
+    runningChoices_.assign(keyed(content.choices));
 }
 
 } // namespace kestrelfen

@@ -1,10 +1,11 @@
 #pragma once
 
-#include "ui/AppListEditor/AppListEditor.hpp"
-#include "ui/EngineFollower.hpp"
+#include "ui/AppListEditor/AppListContent.hpp"
+#include "ui/ChangeFollower.hpp"
 #include "ui/KeyedListModel.hpp"
 
 #include <QObject>
+#include <QVariantMap>
 #include <QtQml/qqmlregistration.h>
 
 namespace kestrelfen {
@@ -16,6 +17,7 @@ class AppListModel : public QObject {
     QML_UNCREATABLE("Made by the program")
     Q_PROPERTY(QString title READ title CONSTANT)
     Q_PROPERTY(QString sentence READ sentence CONSTANT)
+    Q_PROPERTY(QVariantMap texts READ texts CONSTANT)
     Q_PROPERTY(kestrelfen::KeyedListModel* ids READ ids CONSTANT)
     Q_PROPERTY(kestrelfen::KeyedListModel* runningChoices READ runningChoices CONSTANT)
 
@@ -24,10 +26,14 @@ class AppListModel : public QObject {
 
     QString title() const;
     QString sentence() const;
-    /// Each has a `bundleID` and a `name`.
+    /// `empty`, `addHeading`, `nothingToAdd`, `restore` and `done`.
+    QVariantMap texts() const;
+    /// Each has a `bundleID`, a `name` and a `spokenAction`.
     KeyedListModel* ids() { return &ids_; }
     KeyedListModel* runningChoices() { return &runningChoices_; }
 
+    /// Looks again which programs run: the person comes back to the window.
+    Q_INVOKABLE void reload() { editor_.reload(); }
     Q_INVOKABLE void add(const QString& bundleID) { editor_.add(bundleID.toStdString()); }
     Q_INVOKABLE void remove(const QString& bundleID) { editor_.remove(bundleID.toStdString()); }
     Q_INVOKABLE void restoreDefaults() { editor_.restoreDefaults(); }
@@ -38,7 +44,7 @@ class AppListModel : public QObject {
     AppListEditor editor_;
     KeyedListModel ids_;
     KeyedListModel runningChoices_;
-    EngineFollower follower_;
+    ChangeFollower follower_;
 };
 
 } // namespace kestrelfen

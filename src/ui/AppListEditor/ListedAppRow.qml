@@ -7,7 +7,9 @@ Item {
 
     required property string bundleID
     required property string name
+    required property string spokenAction
     property bool isLast: false
+    readonly property alias remover: button
 
     signal removed
 
@@ -32,7 +34,7 @@ Item {
         anchors.verticalCenter: parent.verticalCenter
         symbol: "minus.circle.fill"
         tint: Glass.slate
-        spokenLabel: "Remove " + row.name
+        spokenLabel: row.spokenAction
         onClicked: row.removed()
     }
 

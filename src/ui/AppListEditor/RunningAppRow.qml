@@ -7,7 +7,8 @@ Item {
 
     required property string bundleID
     required property string name
-    readonly property string spokenLabel: "Add " + name
+    required property string spokenAction
+    readonly property string spokenLabel: spokenAction
 
     signal added
 

@@ -2,7 +2,6 @@
 
 #include "core/Formatters.hpp"
 #include "core/HistoryRetention.hpp"
-#include "core/Settings.hpp"
 #include "platform/ports/TimeFormat.hpp"
 #include "ui/Plural.hpp"
 
@@ -33,12 +32,6 @@ std::string taskOf(const HistoryEntry& entry) {
     return entry.kind.kind == Kind::paused ? "not counted as screen time" : dash;
 }
 
-HistoryRetention retentionOf(const Preferences& preferences) {
-    constexpr HistoryRetention fallback = HistoryRetention::year;
-    return historyRetention(Settings::integer(preferences, "historyRetentionDays", days(fallback)))
-        .value_or(fallback);
-}
-
 } // namespace
 
 BreakHistoryRow BreakHistoryRow::of(const HistoryEntry& entry, const TimeFormat& timeFormat) {
@@ -67,7 +60,7 @@ std::string BreakHistoryRow::sentence() const {
 
 BreakHistoryContent BreakHistoryContent::of(std::size_t rowCount, bool hasLoaded,
                                             const Preferences& preferences) {
-    const HistoryRetention retention = retentionOf(preferences);
+    const HistoryRetention retention = chosenRetention(preferences);
     BreakHistoryContent content;
     content.summary =
         counted(static_cast<std::int64_t>(rowCount), "row") + " · retention " + std::string(label(retention));

@@ -2,7 +2,7 @@
 
 #include "ui/BreakHistoryView/BreakHistoryContent.hpp"
 #include "ui/BreakHistoryView/HistoryList.hpp"
-#include "ui/EngineFollower.hpp"
+#include "ui/ChangeFollower.hpp"
 
 #include <QAbstractListModel>
 #include <QString>
@@ -60,7 +60,7 @@ class HistoryModel : public QAbstractListModel {
     std::vector<HistoryEntry> entries_;
     BreakHistoryContent content_;
     bool isShown_ = false;
-    EngineFollower follower_;
+    ChangeFollower follower_;
 };
 
 } // namespace kestrelfen

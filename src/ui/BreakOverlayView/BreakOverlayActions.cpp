@@ -2,7 +2,6 @@
 
 #include "core/BreakEngine.hpp"
 #include "core/DoubleEscapeAction.hpp"
-#include "core/Settings.hpp"
 #include "platform/ports/Clock.hpp"
 
 namespace kestrelfen {
@@ -44,8 +43,7 @@ void BreakOverlayActions::escape() {
     if (action == DoubleEscapeAction::skip) {
         engine_.skipCurrentBreak();
     } else {
-        engine_.snooze(Settings::real(platform_.preferences, "snoozeDurationSeconds", 300.0),
-                       platform_.clock.now());
+        engine_.snooze(chosenSnoozeSeconds(platform_.preferences), platform_.clock.now());
     }
 }
 

@@ -7,7 +7,6 @@
 #include "core/Settings.hpp"
 
 #include <algorithm>
-#include <cmath>
 
 namespace kestrelfen {
 
@@ -26,8 +25,8 @@ void addSkip(std::vector<Control>& controls, const BreakEngine& engine, double d
         controls.push_back({Control::Kind::skip, "Skip This Break", "Skip This Break"});
         return;
     }
-    const double left = std::ceil(std::max(delay - engine.elapsedInCurrentBreak(), 0.0));
-    const std::string text = "Skip in " + std::to_string(static_cast<std::int64_t>(left));
+    const double left = std::max(delay - engine.elapsedInCurrentBreak(), 0.0);
+    const std::string text = "Skip in " + Formatters::wholeSeconds(left);
     controls.push_back({Control::Kind::skipWait, text, text});
 }
 

@@ -3,8 +3,8 @@
 #include "platform/ports/Platform.hpp"
 #include "ui/BreakOverlayView/BreakOverlayActions.hpp"
 #include "ui/BreakOverlayView/BreakOverlayContent.hpp"
+#include "ui/ChangeFollower.hpp"
 #include "ui/ControlListModel.hpp"
-#include "ui/EngineFollower.hpp"
 
 #include <QObject>
 #include <QString>
@@ -62,7 +62,7 @@ class BreakOverlayModel : public QObject {
     BreakOverlayActions actions_;
     BreakOverlayContent content_;
     ControlListModel controls_;
-    EngineFollower follower_;
+    ChangeFollower follower_;
 };
 
 } // namespace kestrelfen

@@ -6,17 +6,15 @@
 namespace kestrelfen {
 
 MainWindowModel::MainWindowModel(const MainWindowSources& sources, const Platform& platform,
-                                 const MakeOnboarding& makeOnboarding)
+                                 MakeOnboarding makeOnboarding)
     : sources_(sources), platform_(platform), actions_(sources.navigation, sources.windows),
       dashboard_(sources, platform), history_(platform, sources.engine, sources.store),
-      tasks_(platform, sources.engine, sources.store), follower_(platform.mainQueue, [this] { refresh(); }) {
+      tasks_(platform, sources.engine, sources.store), makeOnboarding_(std::move(makeOnboarding)),
+      follower_(platform.mainQueue, [this] { refresh(); }) {
     follower_.keep(sources_.engine.observe(follower_.listener()));
     follower_.keep(sources_.navigation.observe(follower_.listener()));
     follower_.keep(platform.preferences.observe(follower_.listener()));
     refresh();
-    if (content_.showsOnboarding && makeOnboarding) {
-        onboarding_ = makeOnboarding();
-    }
 }
 
 QVariantList MainWindowModel::tabs() const {
@@ -44,7 +42,17 @@ void MainWindowModel::chooseTab(const QString& tab) {
 
 void MainWindowModel::refresh() {
     content_ = MainWindowContent::of(sources_.engine, platform_.preferences);
+    std::unique_ptr<QObject> over;
+    if (!content_.showsOnboarding) {
+        over = std::move(onboarding_);
+    } else if (!onboarding_ && makeOnboarding_) {
+        onboarding_ = makeOnboarding_();
+    }
     emit contentChanged();
+    if (over) {
+        // After its view, which ends a turn later.
+        over.release()->deleteLater();
+    }
 }
 
 } // namespace kestrelfen

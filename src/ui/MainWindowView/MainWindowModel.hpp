@@ -34,12 +34,12 @@ class MainWindowModel : public QObject {
   public:
     using MakeOnboarding = std::function<std::unique_ptr<QObject>()>;
 
-    /// `makeOnboarding` makes what the first run's welcome shows; asked only while that is to be shown.
+    /// `makeOnboarding` makes what the first run's welcome shows; asked each time that is to be shown.
     MainWindowModel(const MainWindowSources& sources, const Platform& platform,
-                    const MakeOnboarding& makeOnboarding);
+                    MakeOnboarding makeOnboarding);
 
     bool showsOnboarding() const { return content_.showsOnboarding; }
-    /// Null once the welcome is over.
+    /// Null while there is no welcome to show.
     QObject* onboarding() const { return onboarding_.get(); }
     QString meta() const { return QString::fromStdString(content_.meta); }
     /// Each has a `value` and a `label`.
@@ -67,7 +67,8 @@ class MainWindowModel : public QObject {
     DashboardModel dashboard_;
     HistoryModel history_;
     TasksModel tasks_;
-    EngineFollower follower_;
+    const MakeOnboarding makeOnboarding_;
+    ChangeFollower follower_;
 };
 
 } // namespace kestrelfen

@@ -1,7 +1,7 @@
 #include "ui/MenuBarView/MenuBarActions.hpp"
 
 #include "core/BreakEngine.hpp"
-#include "core/Settings.hpp"
+#include "core/SnoozeOption.hpp"
 #include "platform/ports/Clock.hpp"
 
 namespace kestrelfen {
@@ -16,8 +16,7 @@ void MenuBarActions::pauseOrResume() {
 
 void MenuBarActions::snoozeOrSkip() {
     if (engine_.canSnooze()) {
-        engine_.snooze(Settings::real(platform_.preferences, "snoozeDurationSeconds", 300.0),
-                       platform_.clock.now());
+        engine_.snooze(chosenSnoozeSeconds(platform_.preferences), platform_.clock.now());
     } else {
         engine_.skipNextBreak();
     }

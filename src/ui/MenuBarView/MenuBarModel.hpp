@@ -1,35 +1,20 @@
 #pragma once
 
 #include "platform/ports/Platform.hpp"
+#include "ui/ChangeFollower.hpp"
 #include "ui/ControlListModel.hpp"
-#include "ui/EngineFollower.hpp"
 #include "ui/MenuBarView/ActiveTask.hpp"
 #include "ui/MenuBarView/MenuBarActions.hpp"
 #include "ui/MenuBarView/MenuBarContent.hpp"
 #include "ui/MenuBarView/MenuBarFooter.hpp"
+#include "ui/MenuBarView/MenuBarSources.hpp"
 
 #include <QObject>
 #include <QString>
 #include <QVariantList>
 #include <QtQml/qqmlregistration.h>
 
-#include <functional>
-
 namespace kestrelfen {
-
-class ScreenTimeTracker;
-
-/// What the popover shows and acts upon; all of it outlives the popover.
-struct MenuBarSources {
-    BreakEngine& engine;
-    ScreenTimeTracker& screenTime;
-    /// Null when history is unavailable.
-    KestrelfenStore* store;
-    Navigation& navigation;
-    SceneWindows& windows;
-    /// Asks the program to end.
-    std::function<void()> quit;
-};
 
 /// Publishes the content of the popover while it is shown and forwards its clicks. Main thread only.
 class MenuBarModel : public QObject {
@@ -110,7 +95,7 @@ class MenuBarModel : public QObject {
     MenuBarFooter footer_;
     MenuBarContent content_;
     ControlListModel controls_;
-    EngineFollower follower_;
+    ChangeFollower follower_;
 };
 
 } // namespace kestrelfen

@@ -11,7 +11,7 @@ class BreakEngine;
 struct StatusItemContent {
     std::string_view symbol;
     std::string text;
-    /// Two lines at the most, for a pointer that rests on the item.
+    /// One line, for a pointer that rests on the item.
     std::string tooltip;
 
     static StatusItemContent of(const BreakEngine& engine);

@@ -11,6 +11,7 @@ Column {
     readonly property var words: model.cadence
 
     Label {
+        width: parent.width
         text: page.words.title
         size: 21
         weight: Font.DemiBold
@@ -24,6 +25,7 @@ Column {
     }
 
     Label {
+        width: parent.width
         text: page.words.sentence
         size: 13.5
         color: Glass.slate
@@ -36,7 +38,7 @@ Column {
 
     PresetCards {
         width: parent.width
-        presets: page.model.presets
+        cards: page.model.presets
         onChosen: key => page.model.choosePreset(key)
     }
 
@@ -52,9 +54,15 @@ Column {
         onTurned: (key, on) => page.model.turn(key, on)
     }
 
+    Item {
+        width: 1
+        height: 12
+        visible: error.visible
+    }
+
     Label {
+        id: error
         width: parent.width
-        height: visible ? implicitHeight + 12 : 0
         visible: text !== ""
         text: page.model.error
         size: 11.5

@@ -24,13 +24,6 @@ PaneRow longBreakRow(const Preferences& preferences) {
                                       ordinal(every) + " cycle");
 }
 
-PaneRow launchAtLoginRow(const LaunchAtLogin& launchAtLogin) {
-    return {.key = LaunchAtLogin::key,
-            .title = "Launch at login",
-            .caption = "Registered through SMAppService",
-            .control = ToggleState{launchAtLogin.isOn()}};
-}
-
 std::vector<OnboardingContent::PresetCard> presetCards(CadencePreset selected) {
     std::vector<OnboardingContent::PresetCard> cards;
     for (const CadencePreset preset : allCases<CadencePreset>()) {
@@ -38,6 +31,11 @@ std::vector<OnboardingContent::PresetCard> presetCards(CadencePreset selected) {
                          preset == selected});
     }
     return cards;
+}
+
+std::string placeOf(OnboardingPage page) {
+    return "Page " + std::to_string(static_cast<int>(page) + 1) + " of " +
+           std::to_string(allCases<OnboardingPage>().size());
 }
 
 OnboardingContent::Page welcomePage() {
@@ -62,6 +60,7 @@ std::array<OnboardingContent::Promise, 3> allPromises() {
 OnboardingContent OnboardingContent::of(const Preferences& preferences, const Onboarding& onboarding) {
     return {
         .page = onboarding.page(),
+        .spokenPage = placeOf(onboarding.page()),
         .welcome = welcomePage(),
         .promises = allPromises(),
         .cadence = {"Pick a Cadence", "Every value here is adjustable later in Settings.",
@@ -70,7 +69,7 @@ OnboardingContent OnboardingContent::of(const Preferences& preferences, const On
         .rows = {longBreakRow(preferences),
                  toggleRow(preferences, {"showSkipButton", "Allow skipping a break",
                                          "Skips are recorded as skips, not completed breaks"}),
-                 launchAtLoginRow(onboarding.launchAtLogin())},
+                 launchAtLoginRow(onboarding.launchAtLogin(), "Registered through SMAppService")},
         .error = onboarding.launchAtLogin().error(),
     };
 }

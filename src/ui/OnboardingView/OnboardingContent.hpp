@@ -26,6 +26,9 @@ struct OnboardingContent {
         std::string note;
         bool isSelected = false;
 
+        /// What is said of it beside its label, to who cannot see it.
+        std::string spokenDetail() const { return headline + ", " + note; }
+
         friend bool operator==(const PresetCard&, const PresetCard&) = default;
     };
 
@@ -40,6 +43,8 @@ struct OnboardingContent {
     };
 
     OnboardingPage page = OnboardingPage::welcome;
+    /// What the dots say to who cannot see them.
+    std::string spokenPage;
     Page welcome;
     std::array<Promise, 3> promises;
     Page cadence;

@@ -26,6 +26,7 @@ KeyedListModel::Row keyed(const OnboardingContent::PresetCard& card) {
              {"title", textOf(card.label)},
              {"headline", textOf(card.headline)},
              {"note", textOf(card.note)},
+             {"spokenDetail", textOf(card.spokenDetail())},
              {"isSelected", card.isSelected}}};
 }
 
@@ -33,11 +34,15 @@ KeyedListModel::Row keyed(const OnboardingContent::PresetCard& card) {
 
 OnboardingModel::OnboardingModel(const Platform& platform, std::function<void()> onFinish)
     : platform_(platform), controls_(platform.preferences), onboarding_(platform, std::move(onFinish)),
-      presets_({"key", "title", "headline", "note", "isSelected"}), rows_(paneRowRoles()),
+      presets_({"key", "title", "headline", "note", "spokenDetail", "isSelected"}), rows_(paneRowRoles()),
       follower_(platform.mainQueue, [this] { refresh(); }) {
     follower_.keep(onboarding_.observe(follower_.listener()));
     follower_.keep(platform.preferences.observe(follower_.listener()));
     refresh();
+}
+
+QString OnboardingModel::spokenPage() const {
+    return textOf(content_.spokenPage);
 }
 
 QVariantMap OnboardingModel::welcome() const {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ui/EngineFollower.hpp"
+#include "ui/ChangeFollower.hpp"
 #include "ui/KeyedListModel.hpp"
 #include "ui/OnboardingView/OnboardingContent.hpp"
 #include "ui/SettingsWindowView/SettingsControls.hpp"
@@ -19,6 +19,7 @@ class OnboardingModel : public QObject {
     QML_ELEMENT
     QML_UNCREATABLE("Made by the program")
     Q_PROPERTY(int page READ page NOTIFY contentChanged)
+    Q_PROPERTY(QString spokenPage READ spokenPage NOTIFY contentChanged)
     Q_PROPERTY(QVariantMap welcome READ welcome CONSTANT)
     Q_PROPERTY(QVariantList promises READ promises CONSTANT)
     Q_PROPERTY(QVariantMap cadence READ cadence CONSTANT)
@@ -31,6 +32,7 @@ class OnboardingModel : public QObject {
     OnboardingModel(const Platform& platform, std::function<void()> onFinish);
 
     int page() const { return static_cast<int>(content_.page); }
+    QString spokenPage() const;
     /// Each page has a `title`, a `sentence`, a `prominentButton` and an `otherButton`.
     QVariantMap welcome() const;
     QVariantMap cadence() const;
@@ -60,7 +62,7 @@ class OnboardingModel : public QObject {
     OnboardingContent content_;
     KeyedListModel presets_;
     KeyedListModel rows_;
-    EngineFollower follower_;
+    ChangeFollower follower_;
 };
 
 } // namespace kestrelfen

@@ -49,6 +49,7 @@ Item {
                 PageDots {
                     anchors.horizontalCenter: parent.horizontalCenter
                     current: view.model.page
+                    spokenLabel: view.model.spokenPage
                 }
             }
         }

@@ -8,10 +8,11 @@ Row {
     id: dots
 
     required property int current
+    required property string spokenLabel
 
     spacing: 6
     Accessible.role: Accessible.StaticText
-    Accessible.name: "Page " + (current + 1) + " of 2"
+    Accessible.name: spokenLabel
 
     Repeater {
         model: 2

@@ -3,9 +3,10 @@
 namespace kestrelfen {
 
 PaneContent AboutPane::content() {
-    return {"Kestrelfen",
-            "A 20-20-20 eye-break timer that reads the wall clock, pauses itself when you step away, and "
-            "keeps its own receipts locally."};
+    return {.title = "Kestrelfen",
+            .sentence = "A 20-20-20 eye-break timer that reads the wall clock, pauses itself when you step "
+                        "away, and keeps its own receipts locally.",
+            .hasMark = true};
 }
 
 } // namespace kestrelfen

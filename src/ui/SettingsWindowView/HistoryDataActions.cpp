@@ -4,6 +4,7 @@
 #include "platform/ports/Clock.hpp"
 #include "platform/ports/TextFileWriter.hpp"
 #include "store/KestrelfenStore.hpp"
+#include "ui/Plural.hpp"
 
 namespace kestrelfen {
 
@@ -50,7 +51,7 @@ std::optional<std::string> HistoryDataActions::deletionMessage() const {
     if (!count) {
         return std::nullopt;
     }
-    return "Deleted " + std::to_string(*count) + (*count == 1 ? " day" : " days") + " of history.";
+    return "Deleted " + counted(*count, "day") + " of history.";
 }
 
 } // namespace kestrelfen

@@ -5,15 +5,18 @@ import Kestrelfen
 GlassSurface {
     id: preview
 
+    required property string title
     required property string time
     required property string body
+    required property string spoken
 
     implicitHeight: Math.max(34, texts.implicitHeight) + 26
     Accessible.role: Accessible.StaticText
-    Accessible.name: "Kestrelfen, " + time + ": " + body
+    Accessible.name: spoken
 
     Rectangle {
-        x: 14
+        anchors.left: parent.left
+        anchors.leftMargin: 14
         y: 13
         width: 34
         height: 34
@@ -30,7 +33,8 @@ GlassSurface {
 
     Column {
         id: texts
-        x: 60
+        anchors.left: parent.left
+        anchors.leftMargin: 60
         y: 13
         width: parent.width - 60 - 14
         spacing: 2
@@ -41,7 +45,8 @@ GlassSurface {
 
             Label {
                 id: name
-                text: "Kestrelfen"
+                anchors.left: parent.left
+                text: preview.title
                 size: 13
                 weight: Font.DemiBold
                 Accessible.ignored: true

@@ -18,6 +18,8 @@ Row {
             required property var modelData
 
             width: (row.width - row.spacing * (repeater.count - 1)) / repeater.count
+            title: modelData.title
+            spoken: modelData.spoken
             time: modelData.time
             body: modelData.body
             opacity: modelData.isProminent ? 1 : 0.85

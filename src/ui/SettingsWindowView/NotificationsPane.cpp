@@ -1,18 +1,17 @@
 #include "ui/SettingsWindowView/NotificationsPane.hpp"
 
 #include "core/BreakEngine.hpp"
+#include "core/Formatters.hpp"
 #include "ui/SettingsWindowView/HistoryDataActions.hpp"
 #include "ui/SettingsWindowView/PaneRows.hpp"
-
-#include <cmath>
 
 namespace kestrelfen {
 
 namespace {
 
 std::string warningPreview(const BreakEngine& engine) {
-    const auto seconds = static_cast<std::int64_t>(std::ceil(engine.config().preBreakWarningLead));
-    return "Break in " + std::to_string(seconds) + " seconds — look 20 feet away.";
+    return "Break in " + Formatters::wholeSeconds(engine.config().preBreakWarningLead) +
+           " seconds — look 20 feet away.";
 }
 
 std::string summaryPreview(const BreakEngine& engine) {

@@ -24,7 +24,8 @@ Column {
     spacing: 8
 
     Eyebrow {
-        x: 2
+        anchors.left: parent.left
+        anchors.leftMargin: 2
         visible: text !== ""
         text: block.eyebrow
     }
@@ -85,7 +86,7 @@ Column {
             width: block.width
             title: block.heading
             words: block.words
-            isWarning: block.kind === "callout"
+            isWarning: block.tint === "amber"
         }
     }
 

@@ -17,7 +17,8 @@ Rectangle {
     border.color: isWarning ? Glass.over(Glass.faded(Glass.amber, 0.35), color) : Glass.hairline
 
     Symbol {
-        x: 18
+        anchors.left: parent.left
+        anchors.leftMargin: 18
         y: 14
         visible: !callout.isWarning
         name: "hand.raised.fill"
@@ -27,7 +28,8 @@ Rectangle {
 
     Column {
         id: texts
-        x: callout.indent
+        anchors.left: parent.left
+        anchors.leftMargin: callout.indent
         y: 13
         width: parent.width - callout.indent - 16
         spacing: 3

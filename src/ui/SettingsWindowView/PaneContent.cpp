@@ -32,6 +32,12 @@ void addNotes(std::vector<std::string>& notes, const PaneBlock& block) {
 
 } // namespace
 
+void PaneRow::addButton(std::string label, ButtonStyle style) {
+    spokenButton = label + " " + title;
+    button = std::move(label);
+    buttonStyle = style;
+}
+
 void PaneContent::addRows(std::string eyebrow, std::vector<PaneRow> rows) {
     blocks.push_back({.kind = PaneBlock::Kind::rows, .eyebrow = std::move(eyebrow), .rows = std::move(rows)});
 }

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <variant>
 #include <vector>
 
@@ -14,6 +15,9 @@ struct StepperState {
     bool isInvalid = false;
     bool canDecrement = false;
     bool canIncrement = false;
+    /// What the minus and the plus are called by who cannot see them.
+    std::string decrementLabel = {};
+    std::string incrementLabel = {};
 
     friend bool operator==(const StepperState&, const StepperState&) = default;
 };
@@ -47,6 +51,8 @@ struct CardState {
     bool isSelected = false;
     /// What is written when this one is chosen.
     std::string word;
+    /// Over the title; empty for none.
+    std::string eyebrow = {};
 
     friend bool operator==(const CardState&, const CardState&) = default;
 };
@@ -65,16 +71,26 @@ struct PaneRow {
     std::string captionTint = "faint";
     /// The label of a button in front of the control; empty for none.
     std::string button = {};
+    /// What that button is called by who cannot see the row.
+    std::string spokenButton = {};
     ButtonStyle buttonStyle = ButtonStyle::plain;
+
+    /// Puts a button in front of the control.
+    void addButton(std::string label, ButtonStyle style);
 
     friend bool operator==(const PaneRow&, const PaneRow&) = default;
 };
 
 /// What a notification would look like.
 struct NotificationPreview {
+    static constexpr std::string_view title = "Kestrelfen";
+
     std::string time;
     std::string body;
     bool isProminent = false;
+
+    /// All of it, for who cannot see it.
+    std::string spoken() const { return std::string(title) + ", " + time + ": " + body; }
 
     friend bool operator==(const NotificationPreview&, const NotificationPreview&) = default;
 };
@@ -126,6 +142,8 @@ struct PaneContent {
     std::string title;
     std::string sentence;
     std::vector<PaneBlock> blocks = {};
+    /// Whether the program's mark stands over the title.
+    bool hasMark = false;
 
     void addRows(std::string eyebrow, std::vector<PaneRow> rows);
     void addCards(PaneBlock::Kind kind, std::vector<PaneRow> cards);

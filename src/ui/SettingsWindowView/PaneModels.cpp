@@ -20,6 +20,8 @@ struct ControlValues {
         values["isInvalid"] = stepper.isInvalid;
         values["canDecrement"] = stepper.canDecrement;
         values["canIncrement"] = stepper.canIncrement;
+        values["decrementLabel"] = textOf(stepper.decrementLabel);
+        values["incrementLabel"] = textOf(stepper.incrementLabel);
     }
     void operator()(const PillsState& pills) const {
         QVariantList options;
@@ -41,6 +43,7 @@ struct ControlValues {
         values["control"] = "card";
         values["value"] = QString::fromStdString(card.word);
         values["isOn"] = card.isSelected;
+        values["eyebrow"] = textOf(card.eyebrow);
     }
 };
 
@@ -52,7 +55,9 @@ QString keyOf(const PaneRow& row) {
 QVariantList previewsOf(const PaneBlock& block) {
     QVariantList previews;
     for (const NotificationPreview& preview : block.previews) {
-        previews.append(QVariantMap{{"time", textOf(preview.time)},
+        previews.append(QVariantMap{{"title", shownText(NotificationPreview::title)},
+                                    {"spoken", textOf(preview.spoken())},
+                                    {"time", textOf(preview.time)},
                                     {"body", textOf(preview.body)},
                                     {"isProminent", preview.isProminent}});
     }
@@ -111,9 +116,10 @@ QVariantMap valuesOf(const PaneBlock& block, KeyedListModel& rows) {
 } // namespace
 
 QStringList paneRowRoles() {
-    return {"key",           "title",        "caption", "captionToken", "button",
-            "isButtonPlain", "offered",      "control", "value",        "isInvalid",
-            "canDecrement",  "canIncrement", "options", "isAccented",   "isOn"};
+    return {"key",          "title",         "caption",        "captionToken",  "button",
+            "spokenButton", "isButtonPlain", "offered",        "control",       "value",
+            "isInvalid",    "canDecrement",  "canIncrement",   "options",       "isOn",
+            "eyebrow",      "isAccented",    "decrementLabel", "incrementLabel"};
 }
 
 KeyedListModel::Row keyedRow(const PaneRow& row) {
@@ -122,12 +128,16 @@ KeyedListModel::Row keyedRow(const PaneRow& row) {
                        {"caption", shownText(row.caption)},
                        {"captionToken", QString::fromStdString(row.captionTint)},
                        {"button", textOf(row.button)},
+                       {"spokenButton", textOf(row.spokenButton)},
                        {"isButtonPlain", row.buttonStyle == PaneRow::ButtonStyle::plain},
                        {"offered", row.isEnabled},
                        {"value", QString()},
                        {"isInvalid", false},
                        {"canDecrement", false},
                        {"canIncrement", false},
+                       {"decrementLabel", QString()},
+                       {"incrementLabel", QString()},
+                       {"eyebrow", QString()},
                        {"options", QVariantList()},
                        {"isAccented", false},
                        {"isOn", false}};

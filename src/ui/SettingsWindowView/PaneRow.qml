@@ -11,6 +11,7 @@ SettingRow {
     required property string key
     required property string captionToken
     required property string button
+    required property string spokenButton
     required property bool isButtonPlain
     required property bool offered
     required property string control
@@ -18,6 +19,8 @@ SettingRow {
     required property bool isInvalid
     required property bool canDecrement
     required property bool canIncrement
+    required property string decrementLabel
+    required property string incrementLabel
     required property var options
     required property bool isAccented
     required property bool isOn
@@ -46,7 +49,7 @@ SettingRow {
         PlainLink {
             anchors.verticalCenter: parent?.verticalCenter
             label: row.button
-            spokenLabel: row.button + " " + row.title
+            spokenLabel: row.spokenButton
             onClicked: row.pressed()
         }
     }
@@ -57,7 +60,7 @@ SettingRow {
         SecondaryAction {
             anchors.verticalCenter: parent?.verticalCenter
             label: row.button
-            spokenLabel: row.button + " " + row.title
+            spokenLabel: row.spokenButton
             textSize: 12
             horizontalPadding: 12
             verticalPadding: 6
@@ -76,6 +79,8 @@ SettingRow {
             canDecrement: row.canDecrement
             canIncrement: row.canIncrement
             spokenLabel: row.title
+            decrementLabel: row.decrementLabel
+            incrementLabel: row.incrementLabel
             onDecrement: row.stepped(false)
             onIncrement: row.stepped(true)
         }

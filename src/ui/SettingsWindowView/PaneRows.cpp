@@ -3,6 +3,7 @@
 #include "base/Fault.hpp"
 #include "core/Formatters.hpp"
 #include "core/Settings.hpp"
+#include "ui/LaunchAtLogin.hpp"
 #include "ui/SettingsWindowView/SettingChoice.hpp"
 
 namespace kestrelfen {
@@ -30,7 +31,9 @@ PaneRow stepperRow(const Stepper& stepper, const Preferences& preferences, RowTe
     PaneRow result = row(std::move(text));
     result.control = StepperState{.value = std::move(shown),
                                   .canDecrement = stepper.can(StepDirection::down, preferences),
-                                  .canIncrement = stepper.can(StepDirection::up, preferences)};
+                                  .canIncrement = stepper.can(StepDirection::up, preferences),
+                                  .decrementLabel = "Decrease " + result.title,
+                                  .incrementLabel = "Increase " + result.title};
     return result;
 }
 
@@ -54,6 +57,12 @@ PaneRow toggleRow(const Preferences& preferences, RowText text) {
     return result;
 }
 
+PaneRow launchAtLoginRow(const LaunchAtLogin& launchAtLogin, std::string caption) {
+    PaneRow result = row({LaunchAtLogin::key, "Launch at login", std::move(caption)});
+    result.control = ToggleState{launchAtLogin.isOn()};
+    return result;
+}
+
 PaneRow pillsRow(const Preferences& preferences, RowText text, PillsEmphasis emphasis) {
     const SettingChoice& choice = choiceOf(text.key);
     PillsState pills{.selected = choice.selected(preferences),
@@ -72,7 +81,8 @@ std::vector<PaneRow> cards(const Preferences& preferences, std::string_view key,
     std::vector<PaneRow> rows;
     for (const SettingChoice::Option& option : choice.options()) {
         PaneRow card = row({key, option.label, captions.at(rows.size())});
-        card.control = CardState{choice.selected(preferences) == rows.size(), option.word};
+        card.control =
+            CardState{.isSelected = choice.selected(preferences) == rows.size(), .word = option.word};
         rows.push_back(std::move(card));
     }
     return rows;

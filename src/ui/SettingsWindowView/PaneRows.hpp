@@ -6,7 +6,9 @@
 
 namespace kestrelfen {
 
-// Rows over single preferences, as they stand now.
+class LaunchAtLogin;
+
+// Rows over single preferences, and over the one switch beside them, as they stand now.
 
 struct RowText {
     std::string_view key;
@@ -25,6 +27,8 @@ PaneRow durationRow(const Stepper& stepper, const Preferences& preferences, std:
 PaneRow cyclesRow(const Preferences& preferences, std::optional<std::string> caption = {});
 
 PaneRow toggleRow(const Preferences& preferences, RowText text);
+
+PaneRow launchAtLoginRow(const LaunchAtLogin& launchAtLogin, std::string caption);
 
 enum class PillsEmphasis { plain, accent };
 PaneRow pillsRow(const Preferences& preferences, RowText text, PillsEmphasis emphasis = PillsEmphasis::plain);

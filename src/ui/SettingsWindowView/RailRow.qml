@@ -31,7 +31,8 @@ Rectangle {
 
     Label {
         id: name
-        x: 10
+        anchors.left: parent.left
+        anchors.leftMargin: 10
         anchors.verticalCenter: parent.verticalCenter
         text: row.label
         size: 13
@@ -44,6 +45,7 @@ Rectangle {
         id: area
         anchors.fill: parent
         control: row
+        takesKeyboard: true
         onActivated: row.chosen()
     }
 

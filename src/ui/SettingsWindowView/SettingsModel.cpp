@@ -65,7 +65,8 @@ QVariantList SettingsModel::panes() const {
 }
 
 QString SettingsModel::footer() const {
-    return QString::fromStdString(SettingsRail::footer(sources_.appVersion, sources_.buildNumber));
+    const std::string version = SettingsRail::version(sources_.appVersion, sources_.buildNumber);
+    return shownText(std::string_view(version)) + u'\n' + shownText(SettingsRail::identifier);
 }
 
 QString SettingsModel::title() const {
@@ -140,8 +141,11 @@ void SettingsModel::exportHistory() {
 
 void SettingsModel::enter(SettingsPane pane) {
     pane_ = pane;
-    launchAtLogin_.reload();
-    websiteStats_.reload();
+    if (pane == SettingsPane::timing) {
+        launchAtLogin_.reload();
+    } else if (pane == SettingsPane::websiteStats) {
+        websiteStats_.reload();
+    }
     if (editor_) {
         closeEditor();
     }

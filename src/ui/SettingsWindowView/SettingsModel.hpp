@@ -3,7 +3,7 @@
 #include "base/Navigation.hpp"
 #include "platform/ports/Platform.hpp"
 #include "ui/AppListEditor/AppListModel.hpp"
-#include "ui/EngineFollower.hpp"
+#include "ui/ChangeFollower.hpp"
 #include "ui/LaunchAtLogin.hpp"
 #include "ui/SettingsWindowView/HistoryDataActions.hpp"
 #include "ui/SettingsWindowView/PaneModels.hpp"
@@ -56,6 +56,7 @@ class SettingsModel : public QObject {
     Q_PROPERTY(QVariantList panes READ panes CONSTANT)
     Q_PROPERTY(int selectedPane READ selectedPane NOTIFY contentChanged)
     Q_PROPERTY(QString footer READ footer CONSTANT)
+    Q_PROPERTY(bool hasMark READ hasMark NOTIFY contentChanged)
     Q_PROPERTY(QString title READ title NOTIFY contentChanged)
     Q_PROPERTY(QString sentence READ sentence NOTIFY contentChanged)
     Q_PROPERTY(kestrelfen::KeyedListModel* blocks READ blocks CONSTANT)
@@ -70,6 +71,7 @@ class SettingsModel : public QObject {
     QVariantList panes() const;
     int selectedPane() const { return static_cast<int>(pane_); }
     QString footer() const;
+    bool hasMark() const { return content_.hasMark; }
     QString title() const;
     QString sentence() const;
     KeyedListModel* blocks() { return blocks_.model(); }
@@ -109,7 +111,7 @@ class SettingsModel : public QObject {
     PaneContent content_;
     PaneBlocks blocks_;
     std::unique_ptr<AppListModel> editor_;
-    EngineFollower follower_;
+    ChangeFollower follower_;
 };
 
 } // namespace kestrelfen

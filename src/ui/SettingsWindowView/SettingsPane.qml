@@ -11,6 +11,17 @@ Column {
 
     signal deletionWished
 
+    MarkTile {
+        anchors.left: parent.left
+        visible: pane.model.hasMark
+    }
+
+    Item {
+        width: 1
+        height: 20
+        visible: pane.model.hasMark
+    }
+
     Column {
         width: parent.width
         spacing: 4

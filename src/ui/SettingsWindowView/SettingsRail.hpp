@@ -11,10 +11,11 @@ namespace kestrelfen {
 struct SettingsRail {
     static constexpr std::string_view heading = "Settings";
 
-    /// Two lines.
-    static std::string footer(const std::string& version, const std::string& build) {
-        return "v" + version + " (" + build + ")\napp.kestrelfen.mac";
+    /// The footer's lines.
+    static std::string version(const std::string& version, const std::string& build) {
+        return "v" + version + " (" + build + ")";
     }
+    static constexpr std::string_view identifier = "app.kestrelfen.mac";
 
     static constexpr std::string_view label(SettingsPane pane) {
         switch (pane) {

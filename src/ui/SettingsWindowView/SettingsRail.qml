@@ -14,7 +14,8 @@ Rectangle {
     Accessible.name: model.heading
 
     Eyebrow {
-        x: 18
+        anchors.left: parent.left
+        anchors.leftMargin: 18
         y: 50
         text: rail.model.heading
     }
@@ -47,7 +48,8 @@ Rectangle {
     }
 
     Label {
-        x: 18
+        anchors.left: parent.left
+        anchors.leftMargin: 18
         anchors.bottom: parent.bottom
         anchors.bottomMargin: 14
         text: rail.model.footer

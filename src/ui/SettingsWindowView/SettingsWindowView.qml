@@ -8,6 +8,9 @@ Item {
     required property SettingsModel model
     readonly property var application: Qt.application
     readonly property var deletion: model.deletionQuestion
+    readonly property int pane: model.selectedPane
+
+    onPaneChanged: area.scrollTo(0)
 
     LayoutMirroring.enabled: application.layoutDirection === Qt.RightToLeft
     LayoutMirroring.childrenInherit: true
@@ -46,19 +49,6 @@ Item {
             width: area.width - 56
             model: view.model
             onDeletionWished: question.isOpen = true
-        }
-
-        Connections {
-            target: view.model
-
-            property int pane: view.model.selectedPane
-
-            function onContentChanged(): void {
-                if (pane !== view.model.selectedPane) {
-                    pane = view.model.selectedPane;
-                    area.scrollTo(0);
-                }
-            }
         }
     }
 

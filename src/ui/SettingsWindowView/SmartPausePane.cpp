@@ -3,44 +3,43 @@
 #include "sensing/SmartPauseLists.hpp"
 #include "sensing/SmartPauseMonitor.hpp"
 #include "ui/AppListEditor/SmartPauseWords.hpp"
+#include "ui/Plural.hpp"
 #include "ui/SettingsWindowView/PaneRows.hpp"
 
 namespace kestrelfen {
 
 namespace {
 
-std::string statusText(const SmartPauseMonitor& monitor) {
-    const auto kind = monitor.activeKind();
-    if (!kind) {
-        return "Nothing detected right now";
-    }
-    const std::string text = SmartPauseWords::of(*kind).title + " detected";
-    const auto& name = monitor.activeAppName();
-    return name ? text + " — " + *name : text;
-}
-
 std::string captionOf(SmartPauseKind kind, const Preferences& preferences) {
-    const std::size_t count = SmartPauseLists::bundleIDs(kind, preferences).size();
+    const auto count = std::ssize(SmartPauseLists::bundleIDs(kind, preferences));
     if (kind == SmartPauseKind::focusApps && count == 0) {
         return "Add the apps that mean you're heads-down";
     }
-    return SmartPauseWords::of(kind).detection + " · " + std::to_string(count) +
-           (count == 1 ? " app" : " apps");
+    return SmartPauseWords::of(kind).detection + " · " + counted(count, "app");
 }
 
 PaneRow detectorRow(SmartPauseKind kind, const Preferences& preferences) {
     PaneRow row = toggleRow(preferences, {SmartPauseLists::enableKey(kind), SmartPauseWords::of(kind).title,
                                           captionOf(kind, preferences)});
-    row.button = "Configure";
+    row.addButton("Configure", PaneRow::ButtonStyle::plain);
     return row;
 }
 
 } // namespace
 
+std::string SmartPausePane::status(std::optional<SmartPauseKind> kind,
+                                   const std::optional<std::string>& appName) {
+    if (!kind) {
+        return "Nothing detected right now";
+    }
+    const std::string text = SmartPauseWords::of(*kind).title + " detected";
+    return appName ? text + " — " + *appName : text;
+}
+
 PaneContent SmartPausePane::content(const Preferences& preferences, const SmartPauseMonitor& monitor) {
     PaneContent pane{"Smart Pause", "Holds the timer while you're on a call, watching something, capturing "
                                     "the screen, or heads-down in an app you chose."};
-    pane.addText(PaneBlock::Kind::status, statusText(monitor));
+    pane.addText(PaneBlock::Kind::status, status(monitor.activeKind(), monitor.activeAppName()));
     pane.blocks.back().tint = monitor.activeKind() ? "accent" : "faint";
     if (!monitor.audioProbeSupported()) {
         pane.addCallout("Reduced", "This Mac won't report per-app audio, so calls and video fall back to "

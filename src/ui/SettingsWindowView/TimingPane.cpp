@@ -25,13 +25,6 @@ PaneRow warningLeadRow(const Preferences& preferences) {
     return row;
 }
 
-PaneRow launchAtLoginRow(const LaunchAtLogin& launchAtLogin) {
-    return {.key = LaunchAtLogin::key,
-            .title = "Launch at login",
-            .caption = "SMAppService · also in the menu bar",
-            .control = ToggleState{launchAtLogin.isOn()}};
-}
-
 } // namespace
 
 PaneContent TimingPane::content(const Preferences& preferences, const LaunchAtLogin& launchAtLogin) {
@@ -39,10 +32,10 @@ PaneContent TimingPane::content(const Preferences& preferences, const LaunchAtLo
         "Timing",
         "Validated on commit, including the cross-field rules a single stepper can't express.",
     };
-    pane.addRows({},
-                 {durationRow(Steppers::workInterval, preferences, "Work interval"),
-                  durationRow(Steppers::breakDuration, preferences, "Short break"), longBreakRow(preferences),
-                  cyclesRow(preferences), warningLeadRow(preferences), launchAtLoginRow(launchAtLogin)});
+    pane.addRows({}, {durationRow(Steppers::workInterval, preferences, "Work interval"),
+                      durationRow(Steppers::breakDuration, preferences, "Short break"),
+                      longBreakRow(preferences), cyclesRow(preferences), warningLeadRow(preferences),
+                      launchAtLoginRow(launchAtLogin, "SMAppService · also in the menu bar")});
     if (const auto& error = launchAtLogin.error()) {
         pane.addText(PaneBlock::Kind::message, *error);
         pane.blocks.back().tint = "danger";

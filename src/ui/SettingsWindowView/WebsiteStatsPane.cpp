@@ -25,14 +25,16 @@ std::string captionOf(AutomationPermission permission) {
 PaneRow rowOf(Browser browser, const WebsiteStats& stats) {
     const bool isDenied = stats.permission(browser) == AutomationPermission::denied;
     const bool isOn = stats.isOn(browser);
-    return {.key = std::string(settingsKey(browser)),
-            .title = std::string(displayName(browser)),
-            .caption = captionOf(stats.permission(browser)),
-            .control = ToggleState{isOn},
-            .isEnabled = !stats.isRequesting(),
-            .captionTint = isDenied ? "amber" : "faint",
-            .button = isOn && isDenied ? "Open Settings" : "",
-            .buttonStyle = PaneRow::ButtonStyle::secondary};
+    PaneRow row{.key = std::string(settingsKey(browser)),
+                .title = std::string(displayName(browser)),
+                .caption = captionOf(stats.permission(browser)),
+                .control = ToggleState{isOn},
+                .isEnabled = !stats.isRequesting(),
+                .captionTint = isDenied ? "amber" : "faint"};
+    if (isOn && isDenied) {
+        row.addButton("Open Settings", PaneRow::ButtonStyle::secondary);
+    }
+    return row;
 }
 
 PaneBlock disclosure() {

@@ -2,6 +2,8 @@
 #include "face/settings/ViewOverMachine.hpp"
 #include "ui/OnboardingView/OnboardingModel.hpp"
 
+#include <QTest>
+
 namespace kestrelfen {
 namespace {
 
@@ -12,6 +14,20 @@ class OnboardingViewTest : public ViewOverMachine {
     }
 
     ~OnboardingViewTest() override { view_.setSource(QUrl()); }
+
+    /// What `item` lies in of that type.
+    static const QQuickItem* parentOf(const QQuickItem* item, const char* type) {
+        const QByteArray prefix = QByteArray(type) + "_QMLTYPE_";
+        while (item && !QByteArray(item->metaObject()->className()).startsWith(prefix)) {
+            item = item->parentItem();
+        }
+        return item;
+    }
+
+    /// How far under the end of `upper` that `lower` begins.
+    static double below(const QQuickItem* upper, const QQuickItem* lower) {
+        return lower->mapToScene(QPointF()).y() - upper->mapToScene(QPointF(0, upper->height())).y();
+    }
 
     double real(const char* key) { return Settings::real(platform.preferences, key, -1); }
 
@@ -63,6 +79,29 @@ TEST_F(OnboardingViewTest, BackForgets) {
     click(QStringLiteral("Set Up My Cadence"));
     EXPECT_TRUE(named(QStringLiteral("Standard"))->property("isSelected").toBool());
     EXPECT_FALSE(shows("Couldn't update the login item: refused"));
+}
+
+TEST_F(OnboardingViewTest, ErrorStandsTwelveUnderTheRows) {
+    platform.loginItem.setFailure("refused");
+    open();
+    click(QStringLiteral("Set Up My Cadence"));
+    const QQuickItem* const rows = parentOf(named(QStringLiteral("Launch at login")), "PaneRows");
+    const QQuickItem* const back = named(QStringLiteral("Back"));
+    ASSERT_TRUE(rows && back);
+    const double gap = below(rows, back);
+    click(QStringLiteral("Launch at login"));
+    const QQuickItem* const error = textItem(QStringLiteral("Couldn't update the login item: refused"));
+    ASSERT_TRUE(error);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return below(rows, error) > 0; })) << "it is laid out";
+    EXPECT_EQ(below(rows, error), 12);
+    EXPECT_EQ(below(error, back), gap);
+}
+
+TEST_F(OnboardingViewTest, ClickBringsTheKeyboardToTheCadence) {
+    open();
+    click(QStringLiteral("Set Up My Cadence"));
+    click(QStringLiteral("Gentle"));
+    EXPECT_EQ(focused(), QStringLiteral("Gentle"));
 }
 
 TEST_F(OnboardingViewTest, SmallestWindowReachesEverythingByKeyboard) {

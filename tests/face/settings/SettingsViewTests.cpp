@@ -1,52 +1,15 @@
-#include "core/Settings.hpp"
-#include "face/settings/ViewOverMachine.hpp"
-#include "platform/ports/TextFileWriter.hpp"
-#include "sensing/BrowserScripting.hpp"
-#include "sensing/SmartPauseMonitor.hpp"
-#include "shell/AppRouter.hpp"
-#include "ui/SettingsWindowView/SettingsModel.hpp"
+#include "face/settings/SettingsViewTest.hpp"
+
+#include <QGuiApplication>
 
 namespace kestrelfen {
 namespace {
-
-class NoTextFileWriter final : public TextFileWriter {
-  public:
-    std::optional<std::string> write(const std::string& /*path*/, std::string_view /*text*/) override {
-        return std::nullopt;
-    }
-};
-
-class SettingsViewTest : public ViewOverMachine {
-  protected:
-    void open(SettingsPane pane = SettingsPane::timing) {
-        router.setSettingsPane(pane);
-        model = std::make_unique<SettingsModel>(
-            SettingsSources{engine(), monitor, scripting, nullptr, writer, router,
-                            [](const std::string&, const SettingsSources::ChosenFile&) {},
-                            [this] { ++settingsOpened; }, "1.0.0", "1"},
-            platform.ports());
-        show(QStringLiteral("SettingsWindowView.qml"), *model, QSize(860, 600));
-    }
-
-    ~SettingsViewTest() override { view_.setSource(QUrl()); }
-
-    bool boolean(const char* key) { return Settings::boolean(platform.preferences, key, false); }
-    double real(const char* key) { return Settings::real(platform.preferences, key, -1); }
-
-    NoTextFileWriter writer;
-    AppRouter router;
-    SmartPauseMonitor monitor{platform.preferences, platform.applications, platform.audioProcesses,
-                              platform.log};
-    BrowserScripting scripting{platform.ports()};
-    int settingsOpened = 0;
-    std::unique_ptr<SettingsModel> model;
-};
 
 TEST_F(SettingsViewTest, RailNamesThePanesAndChoosesThem) {
     open();
     for (const char* const text :
          {"Settings", "Timing", "Enforcement", "Smart Pause", "Pausing", "Website Stats", "Notifications",
-          "Appearance", "About", "v1.0.0 (1)\napp.kestrelfen.mac", "Work interval", "20 min"}) {
+          "Appearance", "About", "v1.0.0 (1)\napp.kestrelfen.Kestrelfen", "Work interval", "20 min"}) {
         EXPECT_TRUE(shows(text)) << text << " is not among\n" << texts().join('\n').toStdString();
     }
     click(QStringLiteral("Appearance"));
@@ -63,6 +26,89 @@ TEST_F(SettingsViewTest, EveryPaneIsShownWithoutAComplaint) {
         settleView();
         EXPECT_TRUE(texts().contains(model->sentence())) << rawValue(pane);
     }
+}
+
+TEST_F(SettingsViewTest, BrowsersAreAskedOnlyWhenTheirPaneAppears) {
+    const std::string safari = "com.apple.Safari";
+    const char* const denied = "The desktop's accessibility support cannot be switched on";
+    const char* const granted = "Allowed — reading the current domain";
+    platform.browserAccess.setPermission(safari, FakeBrowserPermission::denied);
+    platform.browserAccess.onPermission = [this](const std::string& bundleID) { asked.push_back(bundleID); };
+    open();
+    for (const SettingsPane pane : allCases<SettingsPane>()) {
+        router.setSettingsPane(pane);
+        settleView();
+        EXPECT_EQ(asked.size(), pane < SettingsPane::websiteStats ? 0U : 1U) << rawValue(pane);
+    }
+    router.setSettingsPane(SettingsPane::websiteStats);
+    settleView();
+    EXPECT_EQ(asked, (std::vector<std::string>{safari, safari}));
+    EXPECT_TRUE(shows(denied));
+    platform.browserAccess.setPermission(safari, FakeBrowserPermission::granted);
+    settleView();
+    EXPECT_TRUE(shows(denied));
+    click(QStringLiteral("About"));
+    click(QStringLiteral("Website Stats"));
+    EXPECT_TRUE(shows(granted));
+}
+
+TEST_F(SettingsViewTest, MarkStandsOverTheNameOfTheProgramAlone) {
+    open();
+    for (const SettingsPane pane : allCases<SettingsPane>()) {
+        router.setSettingsPane(pane);
+        settleView();
+        EXPECT_EQ(countOf("MarkTile"), pane == SettingsPane::about ? 1 : 0) << rawValue(pane);
+    }
+}
+
+TEST_F(SettingsViewTest, ClickBringsTheKeyboardToWhatItChooses) {
+    open(SettingsPane::enforcement);
+    for (const char* const chosen : {"Hardcore", "1 min", "Appearance", "Dark", "Timing"}) {
+        click(QString::fromUtf8(chosen));
+        EXPECT_EQ(focused(), QString::fromUtf8(chosen));
+        EXPECT_FALSE(appearance_.isKeyboardInUse()) << chosen;
+    }
+    press(Qt::Key_Down);
+    EXPECT_EQ(focused(), QStringLiteral("Enforcement"));
+    EXPECT_TRUE(appearance_.isKeyboardInUse());
+}
+
+TEST_F(SettingsViewTest, PaneBeginsAtItsTopHoweverFarTheLastOneWasScrolled) {
+    open(SettingsPane::enforcement);
+    view_.resize(780, 520);
+    settleView();
+    for (const char* const pane : {"Pausing", "Enforcement", "Notifications"}) {
+        QQuickItem* const area = scrollArea();
+        QMetaObject::invokeMethod(area, "scrollTo", Q_ARG(double, 1000));
+        EXPECT_GT(area->property("offset").toDouble(), 0) << pane;
+        click(QString::fromUtf8(pane));
+        EXPECT_EQ(area->property("offset").toDouble(), 0) << pane;
+    }
+}
+
+TEST_F(SettingsViewTest, ChangeInThePaneLeavesItWhereItWasScrolled) {
+    open(SettingsPane::enforcement);
+    view_.resize(780, 520);
+    settleView();
+    QQuickItem* const area = scrollArea();
+    QMetaObject::invokeMethod(area, "scrollTo", Q_ARG(double, 100));
+    prefer("showSkipButton", false);
+    settleView();
+    EXPECT_EQ(area->property("offset").toDouble(), 100);
+}
+
+TEST_F(SettingsViewTest, FromTheRightEverythingBeginsAtTheRight) {
+    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    open(SettingsPane::notifications);
+    const double rail = 860 - 194 - 1;
+    for (const char* const text : {"Settings", "Timing", "About"}) {
+        EXPECT_GE(endOf(text), 860 - 20) << text;
+    }
+    for (const char* const text : {"Notifications & Data", "Preview", "Keep history for"}) {
+        EXPECT_GT(endOf(text), rail - 28 - 17) << text;
+        EXPECT_LT(endOf(text), rail - 27) << text;
+    }
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
 }
 
 TEST_F(SettingsViewTest, StepperWritesAndShows) {
@@ -101,6 +147,36 @@ TEST_F(SettingsViewTest, PillsAndCardsWrite) {
     EXPECT_EQ(focused(), QStringLiteral("Light"));
 }
 
+TEST_F(SettingsViewTest, ChosenLevelIsWrittenInTheColourForTheAccent) {
+    appearance_.setStyle(InterfaceStyle::dark);
+    open(SettingsPane::enforcement);
+    click(QStringLiteral("Hardcore"));
+    EXPECT_EQ(colorOf(QStringLiteral("Hardcore")), QColor(0x04, 0x23, 0x1f));
+    EXPECT_EQ(colorOf(QStringLiteral("No skips allowed")), QColor(0x04, 0x23, 0x1f));
+    EXPECT_EQ(colorOf(QStringLiteral("Casual")), QColor(0xe9, 0xf2, 0xf3));
+}
+
+TEST_F(SettingsViewTest, ChosenModeIsOutlinedAndAChosenLevelFilled) {
+    open(SettingsPane::appearance);
+    EXPECT_EQ(countOf("kestrelfen::Outline"), 1);
+    EXPECT_FALSE(named(QStringLiteral("System"))->property("isFilled").toBool());
+    click(QStringLiteral("Enforcement"));
+    click(QStringLiteral("Hardcore"));
+    EXPECT_EQ(countOf("kestrelfen::Outline"), 0);
+    EXPECT_TRUE(named(QStringLiteral("Hardcore"))->property("isFilled").toBool());
+}
+
+TEST_F(SettingsViewTest, CalloutIsInItsTintAndTheDisclosureIsNot) {
+    for (const char* const key : {"pauseOnScreenLock", "pauseOnDisplaySleep", "pauseOnSystemSleep"}) {
+        prefer(key, false);
+    }
+    prefer("idleMode", std::string("off"));
+    open(SettingsPane::pausing);
+    EXPECT_EQ(colorOf(QStringLiteral("Never pauses")), QColor(0xb4, 0x70, 0x1a));
+    click(QStringLiteral("Website Stats"));
+    EXPECT_EQ(colorOf(QStringLiteral("What This Reads")), QColor(0x0c, 0x1a, 0x20));
+}
+
 TEST_F(SettingsViewTest, ChangeFromOutsideShows) {
     open();
     prefer("workIntervalSeconds", 600.0);
@@ -126,21 +202,6 @@ TEST_F(SettingsViewTest, CustomBringsUpTheThresholdAndKeepsItsRow) {
     EXPECT_EQ(real("idleThresholdSeconds"), 60.0);
     click(QStringLiteral("Off"));
     EXPECT_FALSE(shows("Idle after"));
-}
-
-TEST_F(SettingsViewTest, AppListIsEditedInItsSheet) {
-    platform.applications.start({"org.editor", "Editor", 1}, 0);
-    open(SettingsPane::smartPause);
-    click(QStringLiteral("Configure Deep Focus Apps"));
-    EXPECT_TRUE(shows("No apps yet."));
-    click(QStringLiteral("Add Editor"));
-    EXPECT_EQ(*platform.preferences.strings("focusAppBundleIDs"), PreferenceStrings{"org.editor"});
-    EXPECT_TRUE(shows("Everything running is already listed."));
-    click(QStringLiteral("Remove Editor"));
-    EXPECT_EQ(*platform.preferences.strings("focusAppBundleIDs"), PreferenceStrings{});
-    click(QStringLiteral("Done"));
-    EXPECT_EQ(model->editor(), nullptr);
-    EXPECT_FALSE(shows("No apps yet."));
 }
 
 TEST_F(SettingsViewTest, DeniedBrowserLeadsToTheSystemsSettings) {

@@ -56,6 +56,16 @@ QStringList ViewOverMachine::texts() {
     return texts;
 }
 
+int ViewOverMachine::countOf(const char* type) {
+    const QByteArray prefix = QByteArray(type) + "_QMLTYPE_";
+    int count = 0;
+    walk(view_.contentItem(), [&](const QQuickItem* item) {
+        const QByteArray name = item->metaObject()->className();
+        count += name == type || name.startsWith(prefix) ? 1 : 0;
+    });
+    return count;
+}
+
 QQuickItem* ViewOverMachine::named(const QString& spokenLabel) {
     QQuickItem* found = nullptr;
     walk(view_.contentItem(), [&](QQuickItem* item) {
@@ -74,6 +84,27 @@ void ViewOverMachine::click(const QString& spokenLabel) {
         QTest::mouseClick(&view_, Qt::LeftButton, Qt::NoModifier, centre.toPoint());
         settleView();
     }
+}
+
+const QQuickItem* ViewOverMachine::textItem(const QString& text) {
+    const QQuickItem* found = nullptr;
+    walk(view_.contentItem(), [&](const QQuickItem* item) {
+        if (item->inherits("QQuickText") && item->property("text").toString() == text) {
+            found = item;
+        }
+    });
+    EXPECT_TRUE(found) << "nothing says " << text.toStdString();
+    return found;
+}
+
+QColor ViewOverMachine::colorOf(const QString& text) {
+    const QQuickItem* const item = textItem(text);
+    return item ? item->property("color").value<QColor>() : QColor();
+}
+
+double ViewOverMachine::endOf(const QString& text) {
+    const QQuickItem* const item = textItem(text);
+    return item ? item->mapToScene(QPointF(item->width(), 0)).x() : 0;
 }
 
 void ViewOverMachine::press(Qt::Key key) {

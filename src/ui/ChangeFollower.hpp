@@ -8,10 +8,11 @@
 
 namespace kestrelfen {
 
-/// Calls `refresh` once, a turn of the main queue after any number of changes. Main thread only.
-class EngineFollower {
+/// Follows what can be observed: calls `refresh` once, a turn of the main queue after any number of changes.
+/// Main thread only.
+class ChangeFollower {
   public:
-    EngineFollower(MainQueue& queue, std::function<void()> refresh)
+    ChangeFollower(MainQueue& queue, std::function<void()> refresh)
         : queue_(queue), refresh_(std::move(refresh)) {}
 
     /// What to hand to something observable.

@@ -1,0 +1,26 @@
+#include "ui/AppListEditor/AppListContent.hpp"
+
+#include "ui/AppListEditor/SmartPauseWords.hpp"
+
+namespace kestrelfen {
+
+namespace {
+
+std::vector<AppListContent::Row> rowsOf(const std::vector<AppListEditor::App>& apps,
+                                        std::string_view action) {
+    std::vector<AppListContent::Row> rows;
+    for (const auto& app : apps) {
+        rows.push_back({app.bundleID, app.name, std::string(action) + " " + app.name});
+    }
+    return rows;
+}
+
+} // namespace
+
+AppListContent AppListContent::of(const AppListEditor& editor) {
+    const SmartPauseWords words = SmartPauseWords::of(editor.kind());
+    return {words.title, words.sentence, rowsOf(editor.ids(), "Remove"),
+            rowsOf(editor.runningChoices(), "Add")};
+}
+
+} // namespace kestrelfen
