@@ -27,6 +27,15 @@ TEST_F(FaceTest, aBreakCoversEachDisplayWithAWindowThatTakesNoFocus) {
     EXPECT_TRUE(shownWindows().empty());
 }
 
+TEST_F(FaceTest, whatAnOverlayNeedsIsThereBeforeItIsDue) {
+    machine_.preferences.set("warningHUDEnabled", false);
+    run(1194);
+    EXPECT_FALSE(views_.isWarm());
+    run(1);
+    EXPECT_TRUE(views_.isWarm());
+    EXPECT_TRUE(shownWindows().empty());
+}
+
 TEST_F(FaceTest, theOverlayShowsItsTextsAndCountsDown) {
     run(1203);
     const QString texts = textsIn(shownWindows().at(0));

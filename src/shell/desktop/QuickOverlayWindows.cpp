@@ -1,7 +1,9 @@
 #include "shell/desktop/QuickOverlayWindows.hpp"
 
+#include "core/BreakEngine.hpp"
 #include "core/DoubleEscapeAction.hpp"
 #include "platform/ports/Clock.hpp"
+#include "platform/ports/MainQueue.hpp"
 #include "shell/desktop/QuickBreakWindow.hpp"
 #include "shell/desktop/QuickLayerBreakWindow.hpp"
 #include "shell/desktop/QuickLayerWarningPanel.hpp"
@@ -14,11 +16,35 @@ namespace {
 /// What is pressed sooner after the coming of an overlay was meant for what was there before.
 constexpr double settlingSeconds = 0.5;
 
+/// So long before a break what its windows need is loaded, unless it is there already.
+constexpr double preparationSeconds = 5;
+
+bool isBreakNear(const BreakEngine& engine) {
+    const BreakState& state = engine.state();
+    const bool isComing = state.is(BreakState::Case::working) || state.is(BreakState::Case::preBreakWarning);
+    return isComing && engine.timeUntilNextBreak() <= preparationSeconds;
+}
+
 } // namespace
 
 QuickOverlayWindows::QuickOverlayWindows(const Platform& platform, QuickViews& views, EscapeKey& escapeKey,
                                          const Compositor& compositor)
     : platform_(platform), views_(views), escapeKey_(escapeKey), compositor_(compositor) {}
+
+void QuickOverlayWindows::setEngine(BreakEngine& engine) {
+    engine_ = &engine;
+    engineSubscription_ = engine.observe([this] {
+        if (!views_.isWarm() && isBreakNear(*engine_)) {
+            platform_.mainQueue.post(lifeline_.guard([this] { prepareForBreak(); }));
+        }
+    });
+}
+
+void QuickOverlayWindows::prepareForBreak() {
+    if (!views_.isWarm()) {
+        views_.warmUp(QStringLiteral("BreakOverlayView.qml"));
+    }
+}
 
 std::unique_ptr<OverlayWindows::BreakWindow> QuickOverlayWindows::makeBreakWindow(const Display& display) {
     if (layers_) {

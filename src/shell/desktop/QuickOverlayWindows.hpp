@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Date.hpp"
+#include "base/Lifeline.hpp"
 #include "platform/ports/Compositor.hpp"
 #include "platform/ports/EscapeKey.hpp"
 #include "platform/ports/Platform.hpp"
@@ -26,7 +27,7 @@ class QuickOverlayWindows final : public OverlayWindows {
     void setLayers(LayerSurfaces* layers) { layers_ = layers; }
 
     /// Before the first window is made.
-    void setEngine(BreakEngine& engine) { engine_ = &engine; }
+    void setEngine(BreakEngine& engine);
 
     std::unique_ptr<BreakWindow> makeBreakWindow(const Display& display) override;
     std::unique_ptr<WarningPanel> makeWarningPanel() override;
@@ -36,6 +37,7 @@ class QuickOverlayWindows final : public OverlayWindows {
     void forget(const BreakOverlayModel& overlay);
 
   private:
+    void prepareForBreak();
     std::unique_ptr<BreakWindow> makeLayer(const Display& display);
     bool hearsEscape() const;
     bool hasSettled() const;
@@ -46,6 +48,8 @@ class QuickOverlayWindows final : public OverlayWindows {
     EscapeKey& escapeKey_;
     const Compositor& compositor_;
     BreakEngine* engine_ = nullptr;
+    Lifeline lifeline_;
+    Subscription engineSubscription_;
     LayerSurfaces* layers_ = nullptr;
     std::vector<BreakOverlayModel*> overlays_;
     Date upSince_;

@@ -67,6 +67,11 @@ std::unique_ptr<QQuickItem> QuickViews::makeItem(const QString& view, const QVar
     return item;
 }
 
+void QuickViews::warmUp(const QString& view) {
+    prepare();
+    const QQmlComponent component(engine_.get(), urlOf(view));
+}
+
 void QuickViews::follow(QObject& view) {
     ++viewCount_;
     QObject::connect(&view, &QObject::destroyed, [this] { --viewCount_; });

@@ -30,6 +30,12 @@ class QuickViews final : public InterfaceAppearance {
     /// The view alone, for a window of another kind.
     std::unique_ptr<QQuickItem> makeItem(const QString& view, const QVariantMap& properties);
 
+    /// Loads what the view of that file name needs, so that it is there at once when it is due.
+    void warmUp(const QString& view);
+
+    /// Whether there is what every view needs.
+    bool isWarm() const { return engine_ != nullptr; }
+
     /// Lets go of all that views need, unless there still is one. The next one brings it back.
     void forgetUnused();
 

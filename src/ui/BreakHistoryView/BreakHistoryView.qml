@@ -12,7 +12,17 @@ Item {
     readonly property var columnWidths: columns.map(each => each.width || flexibleWidth)
     readonly property real flexibleWidth: table.width - 36 - 4 * 12 - columns.reduce((sum, each) => sum + each.width, 0)
 
-    Component.onCompleted: model.show()
+    onVisibleChanged: {
+        // The model goes before the view does.
+        if (model) {
+            visible ? model.show() : model.hide();
+        }
+    }
+    Component.onCompleted: {
+        if (visible) {
+            model.show();
+        }
+    }
     Component.onDestruction: model.hide()
 
     Item {

@@ -16,6 +16,9 @@ constexpr int mostFrames = 10;
 /// The least that keeps the round cap in sight at the end of a phase.
 constexpr double leastShown = 0.0001;
 
+/// Of the circle: the end of a shorter way bulges less than its line is wide.
+constexpr double longestStep = 0.05;
+
 constexpr int top = 90 * 16;
 constexpr double fullCircle = 360 * 16;
 
@@ -51,8 +54,31 @@ void RingArc::sweep() {
     if (frame_ >= frames_) {
         timer_.stop();
     }
+    const double before = shown_;
     shown_ = from_ + (target_ - from_) * std::min(1.0, static_cast<double>(frame_) / frames_);
-    update();
+    update(partBetween(before, shown_));
+}
+
+/// Where the end of the arc has been, with its round cap; all of it after a leap.
+QRect RingArc::partBetween(double before, double after) const {
+    if (std::abs(after - before) > longestStep) {
+        return boundingRect().toAlignedRect();
+    }
+    const double radius = (width() - lineWidth_) / 2;
+    const auto end = [&](double share) {
+        const double angle = share * 2 * std::numbers::pi;
+        return QPointF(width() / 2 + radius * std::sin(angle), height() / 2 - radius * std::cos(angle));
+    };
+    QRectF part(end(before), QSizeF());
+    for (const double share : {(before + after) / 2, after}) {
+        const QPointF place = end(share);
+        part.setLeft(std::min(part.left(), place.x()));
+        part.setRight(std::max(part.right(), place.x()));
+        part.setTop(std::min(part.top(), place.y()));
+        part.setBottom(std::max(part.bottom(), place.y()));
+    }
+    const double room = lineWidth_ / 2 + 2;
+    return part.adjusted(-room, -room, room, room).toAlignedRect() & boundingRect().toAlignedRect();
 }
 
 void RingArc::setLineWidth(double width) {

@@ -38,6 +38,7 @@ class RingArc : public QQuickPaintedItem {
   private:
     void sweep();
     int framesFor(double distance) const;
+    QRect partBetween(double before, double after) const;
 
     double lineWidth_ = 8;
     QColor track_;

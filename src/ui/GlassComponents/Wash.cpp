@@ -64,6 +64,21 @@ QImage cut(const QImage& picture, double radius) {
 
 } // namespace
 
+Wash::Latest& Wash::latest() {
+    static Latest latest;
+    return latest;
+}
+
+Wash::Wash(QQuickItem* parent) : PictureItem(parent) {
+    ++latest().users;
+}
+
+Wash::~Wash() {
+    if (--latest().users == 0) {
+        latest().picture = {};
+    }
+}
+
 void Wash::setRadius(double radius) {
     radius_ = radius;
     remake();
@@ -76,7 +91,18 @@ void Wash::take(QColor& member, const QColor& color) {
     emit lookChanged();
 }
 
+/// The windows of one break differ in nothing: they share a picture.
 QImage Wash::makePicture(const QSizeF& size, double ratio) const {
+    const Look look{(size * ratio).toSize(), ratio, {first_, second_, third_, blur_, veil_}, radius_};
+    Latest& latest = Wash::latest();
+    if (latest.picture.isNull() || !(look == latest.look)) {
+        latest.picture = paint(size, ratio);
+        latest.look = look;
+    }
+    return latest.picture;
+}
+
+QImage Wash::paint(const QSizeF& size, double ratio) const {
     std::vector<Shade> shades(steps + 1);
     for (std::size_t step = 0; step <= steps; ++step) {
         const float place = static_cast<float>(step) / steps;

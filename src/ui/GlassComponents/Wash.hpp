@@ -5,6 +5,8 @@
 #include <QColor>
 #include <QtQml/qqmlregistration.h>
 
+#include <array>
+
 namespace kestrelfen {
 
 /// An opaque diagonal gradient of three colours under two veils, with noise of less than one step against
@@ -20,7 +22,8 @@ class Wash : public kestrelfen::PictureItem {
     Q_PROPERTY(QColor veil MEMBER veil_ WRITE setVeil NOTIFY lookChanged)
 
   public:
-    using PictureItem::PictureItem;
+    explicit Wash(QQuickItem* parent = nullptr);
+    ~Wash() override;
 
     void setFirst(const QColor& color) { take(first_, color); }
     void setSecond(const QColor& color) { take(second_, color); }
@@ -38,6 +41,25 @@ class Wash : public kestrelfen::PictureItem {
     QImage makePicture(const QSizeF& size, double ratio) const override;
 
   private:
+    /// All that tells one picture from another.
+    struct Look {
+        QSize size;
+        double ratio = 1;
+        std::array<QColor, 5> colors;
+        double radius = 0;
+
+        bool operator==(const Look&) const = default;
+    };
+
+    /// The latest picture, as long as there is anybody to show it.
+    struct Latest {
+        int users = 0;
+        Look look;
+        QImage picture;
+    };
+
+    static Latest& latest();
+    QImage paint(const QSizeF& size, double ratio) const;
     void take(QColor& member, const QColor& color);
 
     QColor first_;

@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Kestrelfen
 
@@ -7,21 +9,23 @@ Item {
 
     required property MainWindowModel model
     readonly property string chosen: model.tab
-    readonly property var views: ({
-            screenTime: ["ScreenTimeView.qml", model.dashboard],
-            breaks: ["BreakHistoryView.qml", model.history],
-            tasks: ["TasksView.qml", model.tasks]
-        })
-
-    function showChosen() {
-        const [view, content] = views[chosen];
-        tab.setSource(view, {
-            model: content
-        });
-    }
-
-    onChosenChanged: showChosen()
-    Component.onCompleted: showChosen()
+    readonly property var tabViews: [
+        {
+            name: "screenTime",
+            view: "ScreenTimeView.qml",
+            model: model.dashboard
+        },
+        {
+            name: "breaks",
+            view: "BreakHistoryView.qml",
+            model: model.history
+        },
+        {
+            name: "tasks",
+            view: "TasksView.qml",
+            model: model.tasks
+        }
+    ]
 
     MainChrome {
         id: chrome
@@ -37,9 +41,28 @@ Item {
         color: Glass.rule
     }
 
-    Loader {
-        id: tab
-        anchors.fill: parent
-        anchors.topMargin: chrome.height + 1
+    // A tab is made when it is first chosen, and kept, so that going back to it takes no time.
+    Repeater {
+        model: tabs.tabViews
+        delegate: Loader {
+            id: tab
+
+            required property var modelData
+            readonly property bool isChosen: modelData.name === tabs.chosen
+
+            function showIfChosen() {
+                if (isChosen && status === Loader.Null) {
+                    setSource(modelData.view, {
+                        model: modelData.model
+                    });
+                }
+            }
+
+            anchors.fill: parent
+            anchors.topMargin: chrome.height + 1
+            visible: isChosen
+            onIsChosenChanged: showIfChosen()
+            Component.onCompleted: showIfChosen()
+        }
     }
 }

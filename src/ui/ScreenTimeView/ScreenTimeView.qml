@@ -19,7 +19,17 @@ Item {
     }
 
     onIsDetailUpChanged: showDetail()
-    Component.onCompleted: model.show()
+    onVisibleChanged: {
+        // The model goes before the view does.
+        if (model) {
+            visible ? model.show() : model.hide();
+        }
+    }
+    Component.onCompleted: {
+        if (visible) {
+            model.show();
+        }
+    }
     Component.onDestruction: model.hide()
 
     ScrollArea {

@@ -10,7 +10,17 @@ Item {
     required property TasksModel model
     readonly property var texts: model.texts
 
-    Component.onCompleted: model.show()
+    onVisibleChanged: {
+        // The model goes before the view does.
+        if (model) {
+            visible ? model.show() : model.hide();
+        }
+    }
+    Component.onCompleted: {
+        if (visible) {
+            model.show();
+        }
+    }
     Component.onDestruction: model.hide()
 
     TaskComposer {
