@@ -21,6 +21,8 @@ HOUR_OF_NOW = 16
 FARTHEST_EAST = 14
 SECONDS_BEFORE_NOW = 60
 STEP = 5
+#: Long enough that a month has more rows than a table shows, however its weekends fall.
+WORKING_HOURS = (8, 11, 12, 12)
 INTERVAL, WARNING, SHORT, LONG, LONG_EVERY = 1200, 10, 20, 300, 4
 MEMORY = "/dev/shm"
 
@@ -86,7 +88,7 @@ class Diary:
             is_weekend = (day + self._east).weekday() >= 5
             if ago and is_weekend and self._random.random() < 0.8:
                 continue
-            self._write_day(day, ago, 2 if is_weekend else self._random.choice((5, 9, 10, 10)))
+            self._write_day(day, ago, 2 if is_weekend else self._random.choice(WORKING_HOURS))
         return "\n".join(self.lines) + "\n"
 
     def _write_day(self, day, ago, hours):
