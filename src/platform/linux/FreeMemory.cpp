@@ -1,6 +1,6 @@
 #include "platform/linux/FreeMemory.hpp"
 
-#include <cinttypes>
+#include <cstddef>
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
@@ -23,17 +23,20 @@ void returnFreeMemory() {
 namespace {
 
 struct Mapping {
-    std::uintptr_t begin = 0;
-    std::uintptr_t end = 0;
+    void* begin = nullptr;
+    void* end = nullptr;
     /// Private, of a file, and never to be written. What is compiled while the program runs lies in no file.
     bool isFixedPartOfFile = false;
+
+    std::size_t length() const {
+        return static_cast<std::size_t>(static_cast<char*>(end) - static_cast<char*>(begin));
+    }
 };
 
 std::optional<Mapping> mappingOf(const std::string& line) {
     Mapping mapping;
     char access[5] = "";
-    if (std::sscanf(line.c_str(), "%" SCNxPTR "-%" SCNxPTR " %4s", &mapping.begin, &mapping.end, access) !=
-        3) {
+    if (std::sscanf(line.c_str(), "%p-%p %4s", &mapping.begin, &mapping.end, access) != 3) {
         return std::nullopt;
     }
     mapping.isFixedPartOfFile =
@@ -60,7 +63,7 @@ void releaseCode() {
             wasWritten = wasWritten || !isNothing(line);
         } else if (line.starts_with("Swap:") && mapping.isFixedPartOfFile && !wasWritten && isNothing(line)) {
             // Nothing was ever written there, be it in memory or swapped out, so that nothing can be lost.
-            ::madvise(reinterpret_cast<void*>(mapping.begin), mapping.end - mapping.begin, MADV_DONTNEED);
+            ::madvise(mapping.begin, mapping.length(), MADV_DONTNEED);
         }
     }
 }

@@ -105,7 +105,7 @@ std::vector<QRgb> Halo::shades(double farthest, double scale) const {
     const double sigma = blur_ * scale;
     std::vector<QRgb> shades(static_cast<std::size_t>(farthest * finesse) + 2);
     for (std::size_t place = 0; place < shades.size(); ++place) {
-        const double distance = static_cast<double>(place) / finesse - edge;
+        const double distance = (static_cast<double>(place) + 0.5) / finesse - edge;
         const double alpha = 255.0 * static_cast<double>(tint_.alphaF()) * falloff(distance, sigma);
         shades[place] = qPremultiply(
             qRgba(tint_.red(), tint_.green(), tint_.blue(), static_cast<int>(std::lround(alpha))));
@@ -125,7 +125,7 @@ QImage Halo::makePicture(const QSizeF& /*size*/, double ratio) const {
         for (int x = 0; x <= last / 2; ++x) {
             const double distance =
                 std::sqrt((x + 0.5 - centre) * (x + 0.5 - centre) + (y + 0.5 - centre) * (y + 0.5 - centre));
-            line[x] = line[last - x] = shadeAt[static_cast<std::size_t>(distance * finesse + 0.5)];
+            line[x] = line[last - x] = shadeAt[static_cast<std::size_t>(distance * finesse)];
         }
         std::copy(line, line + last + 1, reinterpret_cast<QRgb*>(image.scanLine(last - y)));
     }
