@@ -67,6 +67,13 @@ class MainWindowTest : public FaceTest {
         machine_.applications.stop(7);
     }
 
+    void type(const char* text) {
+        for (; *text; ++text) {
+            QTest::keyClick(view_.get(), *text);
+        }
+        settle();
+    }
+
     void pressKey(Qt::Key key) {
         QTest::keyClick(view_.get(), key);
         settle();
@@ -260,10 +267,30 @@ TEST_F(MainWindowTest, usageDetailOpensFiltersAndCloses) {
     expectTexts({"No apps in this category."});
     click(view_.get(), QStringLiteral("All 1"));
     click(view_.get(), QStringLiteral("Uncategorised"));
+    EXPECT_FALSE(texts().contains(QStringLiteral("Reset to Suggested"))) << "nothing was chosen yet";
     click(view_.get(), QStringLiteral("Media"));
     expectTexts({"set by you"});
+    click(view_.get(), QStringLiteral("Media"));
+    expectTexts({"Work", "Communication", "Browsing", "Media", "Utilities", "Uncategorised", "Reset to Suggested"});
+    click(view_.get(), QStringLiteral("Reset to Suggested"));
+    EXPECT_FALSE(texts().contains(QStringLiteral("set by you")));
     click(view_.get(), QStringLiteral("Done"));
     EXPECT_FALSE(texts().contains(QStringLiteral("Usage Detail")));
+}
+
+TEST_F(MainWindowTest, keysReachNothingInATabThatIsNotShown) {
+    open();
+    model_->chooseTab(QStringLiteral("tasks"));
+    settle();
+    click(view_.get(), QStringLiteral("Add a task — return to save, escape to cancel"));
+    type("Wr");
+    model_->chooseTab(QStringLiteral("breaks"));
+    settle();
+    type("ite");
+    EXPECT_EQ(model_->tasks()->newTitle(), QStringLiteral("Wr"));
+    model_->chooseTab(QStringLiteral("tasks"));
+    settle();
+    EXPECT_EQ(model_->tasks()->newTitle(), QStringLiteral("Wr"));
 }
 
 TEST_F(MainWindowTest, usageDetailThatWasAskedForElsewhereIsTaken) {

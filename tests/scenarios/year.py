@@ -25,7 +25,8 @@ JOURNEYS = {datetime.date(2026, 3, 2): "America/New_York", datetime.date(2026, 3
             datetime.date(2026, 6, 8): "Asia/Tokyo", datetime.date(2026, 6, 22): HOME,
             datetime.date(2026, 10, 26): "America/New_York", datetime.date(2026, 11, 9): HOME}
 #: Saturday evenings from 20:00 on, over the change of the clocks.
-CHANGES = (datetime.date(2026, 3, 7), datetime.date(2026, 3, 28), datetime.date(2026, 10, 24), datetime.date(2026, 10, 31))
+CHANGES = (datetime.date(2026, 3, 7), datetime.date(2026, 3, 28), datetime.date(2026, 10, 24),
+           datetime.date(2026, 10, 31))
 APPS = ("org.editor", "org.mail", "org.terminal", "org.browser")
 TICK = 1.0
 #: A meeting is noticed and left at a sample.
@@ -111,7 +112,7 @@ class Year:
         else:
             self.say("launch")
             self.cadence = 0
-        self.say(f"do begin-break", "press overlay skip")
+        self.say("do begin-break", "press overlay skip")
         self.skip()
 
     def wake(self):

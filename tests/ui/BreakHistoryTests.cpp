@@ -178,9 +178,13 @@ TEST_F(BreakHistoryTest, AnswersToAnEarlierLoadAreDropped) {
 }
 
 TEST_F(BreakHistoryTest, ColumnsAreTold) {
-    EXPECT_EQ(BreakHistoryContent::columns[0].header, "Started");
-    EXPECT_EQ(BreakHistoryContent::columns[3].header, "Task credited");
-    EXPECT_EQ(BreakHistoryContent::columns[3].width, 0);
+    constexpr std::array<std::pair<std::string_view, int>, 5> expected{
+        {{"Started", 96}, {"Type", 116}, {"Duration", 96}, {"Task credited", 0}, {"Display", 90}}};
+    ASSERT_EQ(BreakHistoryContent::columns.size(), expected.size());
+    for (std::size_t column = 0; column < expected.size(); ++column) {
+        EXPECT_EQ(BreakHistoryContent::columns[column].header, expected[column].first);
+        EXPECT_EQ(BreakHistoryContent::columns[column].width, expected[column].second);
+    }
     EXPECT_EQ(BreakHistoryContent::footnote,
               "Stored in SwiftData behind a versioned schema · pruning runs at most once a day");
 }

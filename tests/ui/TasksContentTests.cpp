@@ -22,6 +22,18 @@ TaskSummary doneTask() {
     return done;
 }
 
+TEST(TasksContent, WordsThatNeverChange) {
+    EXPECT_EQ(TasksContent::prompt, "Add a task — return to save, escape to cancel");
+    EXPECT_EQ(TasksContent::emptyTitle, "No tasks yet");
+    EXPECT_EQ(TasksContent::emptyText,
+              "Add one above. Mark a task active and it earns credit each time a work interval finishes.");
+    EXPECT_EQ(TasksContent::clearItem, "Clear Completed…");
+    EXPECT_EQ(TasksContent::purpose, "no reminders, recurrence, subtasks, tags or priorities — on purpose");
+    EXPECT_EQ(TaskRow::gripTip, "Drag to reorder");
+    EXPECT_EQ(TaskRow::activeBadge, "Active");
+    EXPECT_EQ(TaskRow::deleteItem, "Delete");
+}
+
 TEST(TaskRow, OfAnOpenTask) {
     const TaskRow row = TaskRow::of(task(), {});
     EXPECT_EQ(row.title, "Write");

@@ -22,6 +22,15 @@ class WeekContentTest : public testing::Test {
     std::optional<Date> hovered_;
 };
 
+TEST_F(WeekContentTest, WordsAndRoomsThatNeverChange) {
+    EXPECT_EQ(WeekContent::title, "Screen Time and Breaks Kept");
+    EXPECT_EQ(WeekContent::screenTimeLegend, "Screen time");
+    EXPECT_EQ(WeekContent::keptLegend, "% = breaks kept that day");
+    EXPECT_EQ(WeekContent::targetMark, "target");
+    EXPECT_EQ(WeekContent::labelsHeight, 34);
+    EXPECT_EQ(WeekContent::headroom, 18);
+}
+
 TEST_F(WeekContentTest, SubtitleOfAnEmptyWeek) {
     EXPECT_EQ(content().subtitle, "Nothing recorded this week yet");
     EXPECT_FALSE(content().isHovering);

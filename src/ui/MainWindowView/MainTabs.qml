@@ -61,6 +61,8 @@ Item {
             anchors.fill: parent
             anchors.topMargin: chrome.height + 1
             visible: isChosen
+            // What is hidden would keep the keyboard.
+            enabled: isChosen
             onIsChosenChanged: showIfChosen()
             Component.onCompleted: showIfChosen()
         }
