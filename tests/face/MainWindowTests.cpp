@@ -271,7 +271,8 @@ TEST_F(MainWindowTest, usageDetailOpensFiltersAndCloses) {
     click(view_.get(), QStringLiteral("Media"));
     expectTexts({"set by you"});
     click(view_.get(), QStringLiteral("Media"));
-    expectTexts({"Work", "Communication", "Browsing", "Media", "Utilities", "Uncategorised", "Reset to Suggested"});
+    expectTexts(
+        {"Work", "Communication", "Browsing", "Media", "Utilities", "Uncategorised", "Reset to Suggested"});
     click(view_.get(), QStringLiteral("Reset to Suggested"));
     EXPECT_FALSE(texts().contains(QStringLiteral("set by you")));
     click(view_.get(), QStringLiteral("Done"));
