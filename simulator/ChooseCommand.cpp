@@ -53,12 +53,16 @@ void choose(Simulation& simulation, Arguments& arguments) {
     chooseSetting(simulation, key, word);
 }
 
-constexpr std::array<NamedCommand, 1> commands{{{"choose", choose}}};
+FormList chooseForms() {
+    return joined({firstWordForms(choosers), formsOf(SettingChoice::keys())});
+}
+
+constexpr std::array<NamedCommand, 1> commands{{{"choose", choose, chooseForms}}};
 
 } // namespace
 
-Command chooseCommand(std::string_view name) {
-    return commandNamed(commands, name);
+Commands chooseCommands() {
+    return commands;
 }
 
 } // namespace kestrelfen

@@ -1,8 +1,9 @@
 #pragma once
 
-#include "Arguments.hpp"
+#include "Forms.hpp"
 
 #include <array>
+#include <span>
 #include <string_view>
 
 namespace kestrelfen {
@@ -15,31 +16,23 @@ using Command = void (*)(Simulation&, Arguments&);
 struct NamedCommand {
     std::string_view name;
     Command command;
+    /// Null where only values follow.
+    Forms forms = nullptr;
 };
 
-/// Null where `commands` has none of that name.
-template <std::size_t count>
-constexpr Command commandNamed(const std::array<NamedCommand, count>& commands, std::string_view name) {
-    for (const NamedCommand& known : commands) {
-        if (known.name == name) {
-            return known.command;
-        }
-    }
-    return nullptr;
-}
+using Commands = std::span<const NamedCommand>;
 
-// Each answers null where it has no command of that name.
-Command timeCommand(std::string_view name);
-Command worldCommand(std::string_view name);
-Command senseCommand(std::string_view name);
-Command historyCommand(std::string_view name);
-Command programCommand(std::string_view name);
-Command pressCommand(std::string_view name);
-Command popoverCommand(std::string_view name);
-Command mainWindowCommand(std::string_view name);
-Command settingsCommand(std::string_view name);
-Command chooseCommand(std::string_view name);
-Command onboardingCommand(std::string_view name);
+Commands timeCommands();
+Commands worldCommands();
+Commands senseCommands();
+Commands historyCommands();
+Commands programCommands();
+Commands pressCommands();
+Commands popoverCommands();
+Commands mainWindowCommands();
+Commands settingsCommands();
+Commands chooseCommands();
+Commands onboardingCommands();
 
 /// `press popover`, with the words that follow.
 void pressPopover(Simulation& simulation, Arguments& arguments);
@@ -47,6 +40,7 @@ void pressPopover(Simulation& simulation, Arguments& arguments);
 void pressDashboard(Simulation& simulation, Arguments& arguments);
 /// `press onboarding`.
 void pressOnboarding(Simulation& simulation, Arguments& arguments);
+FormList onboardingControlForms();
 
 /// `choose usageSource` with that word.
 void chooseUsageSource(Simulation& simulation, const std::string& word);

@@ -20,6 +20,10 @@ bool EventLog::isKind(const std::string& kind) {
     return std::find(kinds.begin(), kinds.end(), kind) != kinds.end();
 }
 
+FormList EventLog::kindForms() {
+    return formsOf(kinds);
+}
+
 void EventLog::add(const std::string& kind, Date at, const Json& details) {
     Json event{{"event", kind}, {"at", jsonOf(at)}};
     event.update(details);

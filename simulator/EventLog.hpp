@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Forms.hpp"
 #include "Json.hpp"
 
 #include <map>
@@ -13,6 +14,7 @@ class EventLog {
   public:
     /// The kinds that there are.
     static bool isKind(const std::string& kind);
+    static FormList kindForms();
 
     void setPrinting(bool printing) { printing_ = printing; }
 

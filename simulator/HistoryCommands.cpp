@@ -6,20 +6,20 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace kestrelfen {
 
 namespace {
 
+constexpr std::array<std::string_view, 4> storeStates{"broken", "ok", "failing", "working"};
+
 void store(Simulation& simulation, Arguments& arguments) {
-    const std::string word = arguments.take("broken, ok, failing or working");
+    const std::string_view word = takeOneOf(storeStates, arguments);
     if (word == "ok" || word == "working") {
         arguments.end();
         word == "ok" ? simulation.store().setBroken({}) : simulation.store().setFailing({});
         return;
-    }
-    if (word != "broken" && word != "failing") {
-        throw ScenarioError(quoted(word) + " is not broken, ok, failing or working");
     }
     const std::string text = arguments.empty() ? "failed" : arguments.take("TEXT");
     arguments.end();
@@ -83,6 +83,11 @@ struct TitledAction {
     TaskAction action;
 };
 
+using UntitledAction = void (*)(Simulation&, Arguments&);
+
+constexpr std::array<std::pair<std::string_view, UntitledAction>, 2> otherTaskActions{
+    {{"add", addTask}, {"clear-completed", clearCompletedTasks}}};
+
 constexpr std::array<TitledAction, 3> titledActions{{
     {"activate", true, [](TaskList& list, const TaskSummary& task) { list.setActive(task); }},
     {"toggle", false, [](TaskList& list, const TaskSummary& task) { list.toggle(task); }},
@@ -91,13 +96,11 @@ constexpr std::array<TitledAction, 3> titledActions{{
 
 void task(Simulation& simulation, Arguments& arguments) {
     const std::string word = arguments.take("the action");
-    if (word == "add") {
-        addTask(simulation, arguments);
-        return;
-    }
-    if (word == "clear-completed") {
-        clearCompletedTasks(simulation, arguments);
-        return;
+    for (const auto& [name, action] : otherTaskActions) {
+        if (name == word) {
+            action(simulation, arguments);
+            return;
+        }
     }
     for (const auto& [name, onlyOpen, action] : titledActions) {
         if (name == word) {
@@ -131,13 +134,23 @@ void deleteAllHistory(Simulation& simulation, Arguments& arguments) {
     }
 }
 
-constexpr std::array<NamedCommand, 4> commands{
-    {{"store", store}, {"task", task}, {"export", exportHistory}, {"delete-all-history", deleteAllHistory}}};
+FormList taskForms() {
+    FormList forms = firstWordForms(otherTaskActions);
+    for (const TitledAction& action : titledActions) {
+        forms.emplace_back(action.name);
+    }
+    return forms;
+}
+
+constexpr std::array<NamedCommand, 4> commands{{{"store", store, [] { return formsOf(storeStates); }},
+                                                {"task", task, taskForms},
+                                                {"export", exportHistory},
+                                                {"delete-all-history", deleteAllHistory}}};
 
 } // namespace
 
-Command historyCommand(std::string_view name) {
-    return commandNamed(commands, name);
+Commands historyCommands() {
+    return commands;
 }
 
 } // namespace kestrelfen

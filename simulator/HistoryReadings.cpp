@@ -201,8 +201,8 @@ constexpr std::array<NamedReader, 10> readers{{{"day", dayReading},
 
 } // namespace
 
-Reader historyReader(std::string_view name) {
-    return readerNamed(readers, name);
+Readers historyReaders() {
+    return readers;
 }
 
 } // namespace kestrelfen

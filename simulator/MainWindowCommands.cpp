@@ -50,12 +50,20 @@ void category(Simulation& simulation, Arguments& arguments) {
     }
 }
 
+FormList categoryForms() {
+    return formsBehind("*", joined({rawValueForms<AppCategory>(), {"reset"}}));
+}
+
 using Click = void (DashboardActions::*)();
 
 constexpr std::array<Click, 3> clicks{&DashboardActions::breakNowOrEnd, &DashboardActions::postpone,
                                       &DashboardActions::pauseOrResume};
 
-constexpr std::array<NamedCommand, 2> commands{{{"hover", hover}, {"category", category}}};
+constexpr std::array<NamedCommand, 2> commands{{{"hover", hover,
+                                                 [] {
+                                                     return FormList{"*", "none"};
+                                                 }},
+                                                {"category", category, categoryForms}}};
 
 } // namespace
 
@@ -85,8 +93,8 @@ void chooseUsageSource(Simulation& simulation, const std::string& word) {
     withDashboard(simulation, [source](Dashboard& dashboard) { dashboard.setUsageSource(*source); });
 }
 
-Command mainWindowCommand(std::string_view name) {
-    return commandNamed(commands, name);
+Commands mainWindowCommands() {
+    return commands;
 }
 
 } // namespace kestrelfen

@@ -169,15 +169,20 @@ Json usageReading(Simulation& simulation, Arguments& arguments) {
             {"placeholder", jsonOf(content.placeholder)}};
 }
 
+FormList usageForms() {
+    return joined({formsBehind("*", rawValueForms<DayRange>()), rawValueForms<UsageSource>(),
+                   formsBehind("* *", joined({rawValueForms<AppCategory>(), {"all"}}))});
+}
+
 constexpr std::array<NamedReader, 4> readers{{{"score", scoreReading},
                                               {"dashboard", dashboardReading},
-                                              {"breaks", breaksReading},
-                                              {"usage", usageReading}}};
+                                              {"breaks", breaksReading, rawValueForms<DayRange>},
+                                              {"usage", usageReading, usageForms}}};
 
 } // namespace
 
-Reader mainWindowReader(std::string_view name) {
-    return readerNamed(readers, name);
+Readers mainWindowReaders() {
+    return readers;
 }
 
 } // namespace kestrelfen

@@ -67,7 +67,8 @@ Json onboardingReading(Simulation& simulation, Arguments& arguments) {
     return objectOf(OnboardingContent::of(simulation.world().preferences, onboarding), onboarding.preset());
 }
 
-constexpr std::array<NamedCommand, 1> commands{{{"choose-preset", choosePreset}}};
+constexpr std::array<NamedCommand, 1> commands{
+    {{"choose-preset", choosePreset, rawValueForms<CadencePreset>}}};
 constexpr std::array<NamedReader, 1> readers{{{"onboarding", onboardingReading}}};
 
 } // namespace
@@ -88,12 +89,20 @@ void pressOnboarding(Simulation& simulation, Arguments& arguments) {
     throw ScenarioError(quoted(name) + " is no control of the onboarding");
 }
 
-Command onboardingCommand(std::string_view name) {
-    return commandNamed(commands, name);
+FormList onboardingControlForms() {
+    FormList forms;
+    for (const Control& control : controls) {
+        forms.emplace_back(control.name);
+    }
+    return forms;
 }
 
-Reader onboardingReader(std::string_view name) {
-    return readerNamed(readers, name);
+Commands onboardingCommands() {
+    return commands;
+}
+
+Readers onboardingReaders() {
+    return readers;
 }
 
 } // namespace kestrelfen

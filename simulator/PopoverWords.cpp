@@ -78,7 +78,7 @@ using Click = void (MenuBarActions::*)();
 constexpr std::array<Click, 3> clicks{&MenuBarActions::pauseOrResume, &MenuBarActions::snoozeOrSkip,
                                       &MenuBarActions::breakNowOrEnd};
 
-constexpr std::array<NamedCommand, 1> commands{{{"go", go}}};
+constexpr std::array<NamedCommand, 1> commands{{{"go", go, rawValueForms<FooterItem>}}};
 constexpr std::array<NamedReader, 1> readers{{{"popover", popoverReading}}};
 
 } // namespace
@@ -101,12 +101,12 @@ void pressPopover(Simulation& simulation, Arguments& arguments) {
     });
 }
 
-Command popoverCommand(std::string_view name) {
-    return commandNamed(commands, name);
+Commands popoverCommands() {
+    return commands;
 }
 
-Reader popoverReader(std::string_view name) {
-    return readerNamed(readers, name);
+Readers popoverReaders() {
+    return readers;
 }
 
 } // namespace kestrelfen

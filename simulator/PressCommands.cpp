@@ -30,12 +30,31 @@ bool offers(const Controls& controls, Kind kind) {
                        [kind](const auto& control) { return control.kind == kind; });
 }
 
+constexpr std::array<std::string_view, 3> overlayControls{"snooze", "end", "skip"};
+constexpr std::array<std::string_view, 3> warningControls{"snooze", "dismiss", "start"};
+
+std::string takeControl(std::span<const std::string_view> known, const char* view, Arguments& arguments) {
+    const std::string& name = arguments.take("the control");
+    if (std::find(known.begin(), known.end(), name) == known.end()) {
+        throw ScenarioError(quoted(name) + " is no control of the " + view);
+    }
+    return name;
+}
+
+FormList formsOfControls(std::span<const std::string_view> controls) {
+    FormList forms;
+    for (const std::string_view control : controls) {
+        forms.emplace_back(control);
+    }
+    for (const SnoozeOption option : snoozeOptions) {
+        forms.push_back("snooze " + std::to_string(minutes(option)));
+    }
+    return forms;
+}
+
 void pressOverlay(Simulation& simulation, Arguments& arguments) {
     using Kind = BreakOverlayControl::Kind;
-    const std::string name = arguments.take("the control");
-    if (name != "snooze" && name != "end" && name != "skip") {
-        throw ScenarioError(quoted(name) + " is no control of the overlay");
-    }
+    const std::string name = takeControl(overlayControls, "overlay", arguments);
     const auto option = name == "snooze" ? std::optional(takeSnooze(arguments)) : std::nullopt;
     arguments.end();
     SimulatedProgram& program = simulation.program();
@@ -60,10 +79,7 @@ void pressOverlay(Simulation& simulation, Arguments& arguments) {
 
 void pressWarning(Simulation& simulation, Arguments& arguments) {
     using Kind = PreBreakWarningControl::Kind;
-    const std::string name = arguments.take("the control");
-    if (name != "snooze" && name != "dismiss" && name != "start") {
-        throw ScenarioError(quoted(name) + " is no control of the warning");
-    }
+    const std::string name = takeControl(warningControls, "warning", arguments);
     const auto option = name == "snooze" ? std::optional(takeSnooze(arguments)) : std::nullopt;
     arguments.end();
     SimulatedProgram& program = simulation.program();
@@ -82,21 +98,26 @@ void pressWarning(Simulation& simulation, Arguments& arguments) {
     }
 }
 
+FormList threeButtons() {
+    return {"1", "2", "3"};
+}
+
+constexpr std::array<NamedCommand, 5> views{
+    {{"overlay", pressOverlay, [] { return formsOfControls(overlayControls); }},
+     {"warning", pressWarning, [] { return formsOfControls(warningControls); }},
+     {"popover", pressPopover, threeButtons},
+     {"dashboard", pressDashboard, threeButtons},
+     {"onboarding", pressOnboarding, onboardingControlForms}}};
+
 void press(Simulation& simulation, Arguments& arguments) {
     const std::string view = arguments.take("the view");
-    if (view == "overlay") {
-        pressOverlay(simulation, arguments);
-    } else if (view == "warning") {
-        pressWarning(simulation, arguments);
-    } else if (view == "popover") {
-        pressPopover(simulation, arguments);
-    } else if (view == "dashboard") {
-        pressDashboard(simulation, arguments);
-    } else if (view == "onboarding") {
-        pressOnboarding(simulation, arguments);
-    } else {
-        throw ScenarioError(quoted(view) + " has no controls");
+    for (const auto& [name, pressIt, forms] : views) {
+        if (name == view) {
+            pressIt(simulation, arguments);
+            return;
+        }
     }
+    throw ScenarioError(quoted(view) + " has no controls");
 }
 
 void escape(Simulation& simulation, Arguments& arguments) {
@@ -108,7 +129,8 @@ void escape(Simulation& simulation, Arguments& arguments) {
     }
 }
 
-constexpr std::array<NamedCommand, 2> commands{{{"press", press}, {"escape", escape}}};
+constexpr std::array<NamedCommand, 2> commands{
+    {{"press", press, [] { return formsOfAll(views); }}, {"escape", escape}}};
 
 } // namespace
 
@@ -116,8 +138,8 @@ void notAvailable() {
     Output::line(lineOf({{"note", "not available"}}));
 }
 
-Command pressCommand(std::string_view name) {
-    return commandNamed(commands, name);
+Commands pressCommands() {
+    return commands;
 }
 
 } // namespace kestrelfen

@@ -30,12 +30,11 @@ void finishOnboarding(Simulation& simulation, Arguments& arguments) {
     simulation.program().delegate().finishOnboarding();
 }
 
+constexpr std::array<std::string_view, 2> windowNames{"main", "settings"};
+
 void closeWindow(Simulation& simulation, Arguments& arguments) {
-    const std::string& window = arguments.take("main or settings");
+    const std::string_view window = takeOneOf(windowNames, arguments);
     arguments.end();
-    if (window != "main" && window != "settings") {
-        throw ScenarioError(quoted(window) + " is not main or settings");
-    }
     simulation.program();
     if (!simulation.scenes().close(window == "main" ? Scene::main : Scene::settings)) {
         notAvailable();
@@ -103,19 +102,23 @@ void perform(Simulation& simulation, Arguments& arguments) {
     throw ScenarioError(quoted(name) + " is no operation");
 }
 
+FormList operationForms() {
+    return joined({firstWordForms(operations), firstWordForms(timedOperations)});
+}
+
 constexpr std::array<NamedCommand, 8> commands{{{"launch", launch},
                                                 {"quit", quit},
                                                 {"kill", kill},
                                                 {"finish-onboarding", finishOnboarding},
-                                                {"close", closeWindow},
-                                                {"tab", chooseTab},
-                                                {"pane", choosePane},
-                                                {"do", perform}}};
+                                                {"close", closeWindow, [] { return formsOf(windowNames); }},
+                                                {"tab", chooseTab, rawValueForms<MainTab>},
+                                                {"pane", choosePane, rawValueForms<SettingsPane>},
+                                                {"do", perform, operationForms}}};
 
 } // namespace
 
-Command programCommand(std::string_view name) {
-    return commandNamed(commands, name);
+Commands programCommands() {
+    return commands;
 }
 
 } // namespace kestrelfen

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Arguments.hpp"
+#include "Forms.hpp"
 #include "Json.hpp"
 
 namespace kestrelfen {
@@ -9,5 +9,8 @@ class Simulation;
 
 /// What `show` prints of the reading `what`, with the words that belong to it. Throws a ScenarioError.
 Json reading(Simulation& simulation, const std::string& what, Arguments& arguments);
+
+/// Of all readings that there are.
+FormList readingForms();
 
 } // namespace kestrelfen

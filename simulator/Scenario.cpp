@@ -12,6 +12,16 @@
 
 namespace kestrelfen {
 
+namespace {
+
+constexpr std::array families{timeCommands,     worldCommands,  senseCommands,     historyCommands,
+                              programCommands,  pressCommands,  popoverCommands,   mainWindowCommands,
+                              settingsCommands, chooseCommands, onboardingCommands};
+
+constexpr std::array<std::string_view, 2> switchWords{"on", "off"};
+
+} // namespace
+
 Scenario::Result Scenario::run(std::istream& lines) {
     std::string line;
     while (std::getline(lines, line)) {
@@ -46,28 +56,40 @@ void Scenario::runLine(const std::string& line) {
 }
 
 void Scenario::runCommand(const std::string& name, Arguments& arguments) {
-    for (const auto find :
-         {timeCommand, worldCommand, senseCommand, historyCommand, programCommand, pressCommand,
-          popoverCommand, mainWindowCommand, settingsCommand, chooseCommand, onboardingCommand}) {
-        if (const Command command = find(name)) {
-            command(simulation_, arguments);
+    for (const auto commands : families) {
+        for (const auto& [known, command, forms] : commands()) {
+            if (known == name) {
+                command(simulation_, arguments);
+                return;
+            }
+        }
+    }
+    for (const auto& [known, order, forms] : orders()) {
+        if (known == name) {
+            (this->*order)(arguments);
             return;
         }
     }
-    if (name == "show") {
-        show(arguments);
-    } else if (name == "expect") {
-        expect(arguments);
-    } else if (name == "expect-event") {
-        expectEvent(arguments);
-    } else if (name == "events") {
-        setEvents(arguments);
-    } else if (name == "forget-events") {
-        arguments.end();
-        simulation_.events().forget();
-    } else {
-        throw ScenarioError(quoted(name) + " is no command");
+    throw ScenarioError(quoted(name) + " is no command");
+}
+
+std::span<const Scenario::NamedOrder> Scenario::orders() {
+    static constexpr std::array<NamedOrder, 5> all{
+        {{"show", &Scenario::show, readingForms},
+         {"expect", &Scenario::expect, readingForms},
+         {"expect-event", &Scenario::expectEvent, EventLog::kindForms},
+         {"events", &Scenario::setEvents, [] { return formsOf(switchWords); }},
+         {"forget-events", &Scenario::forgetEvents}}};
+    return all;
+}
+
+FormList Scenario::forms() {
+    std::vector<FormList> lists;
+    for (const auto commands : families) {
+        lists.push_back(formsOfAll(commands()));
     }
+    lists.push_back(formsOfAll(orders()));
+    return joined(std::move(lists));
 }
 
 void Scenario::show(Arguments& arguments) {
@@ -96,12 +118,14 @@ void Scenario::expectEvent(Arguments& arguments) {
 }
 
 void Scenario::setEvents(Arguments& arguments) {
-    const std::string& word = arguments.take("on or off");
+    const std::string_view word = takeOneOf(switchWords, arguments);
     arguments.end();
-    if (word != "on" && word != "off") {
-        throw ScenarioError(quoted(word) + " is not on or off");
-    }
     simulation_.events().setPrinting(word == "on");
+}
+
+void Scenario::forgetEvents(Arguments& arguments) {
+    arguments.end();
+    simulation_.events().forget();
 }
 
 void Scenario::compare(const std::string& subject, const Json& actual, const std::string& expected) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Arguments.hpp"
+#include "Forms.hpp"
 #include "Simulation.hpp"
 
 #include <filesystem>
@@ -23,13 +23,28 @@ class Scenario {
     /// Stops at a malformed line; goes on after an expectation that did not hold.
     Result run(std::istream& lines);
 
+    /// Of every line that can stand in a scenario.
+    static FormList forms();
+
   private:
+    using Order = void (Scenario::*)(Arguments&);
+
+    /// A command that is the scenario's own.
+    struct NamedOrder {
+        std::string_view name;
+        Order order;
+        Forms forms = nullptr;
+    };
+
+    static std::span<const NamedOrder> orders();
+
     void runLine(const std::string& line);
     void runCommand(const std::string& command, Arguments& arguments);
     void show(Arguments& arguments);
     void expect(Arguments& arguments);
     void expectEvent(Arguments& arguments);
     void setEvents(Arguments& arguments);
+    void forgetEvents(Arguments& arguments);
     void compare(const std::string& subject, const Json& actual, const std::string& expected);
     void say(const std::string& message) const;
 

@@ -10,12 +10,14 @@ namespace kestrelfen {
 
 namespace {
 
+constexpr std::array<std::string_view, 2> powers{"asleep", "awake"};
+constexpr std::array<std::string_view, 3> sounds{"unsupported", "in", "out"};
+constexpr std::array<std::string_view, 2> browserFacts{"permission", "url"};
+constexpr std::array<std::string_view, 2> loginItemAnswers{"ok", "failing"};
+
 void display(Simulation& simulation, Arguments& arguments) {
-    const std::string& word = arguments.take("asleep or awake");
+    const std::string_view word = takeOneOf(powers, arguments);
     arguments.end();
-    if (word != "asleep" && word != "awake") {
-        throw ScenarioError(quoted(word) + " is not asleep or awake");
-    }
     simulation.world().displayPower.setAsleep(word == "asleep");
 }
 
@@ -67,16 +69,16 @@ void stopApplication(Simulation& simulation, Arguments& arguments) {
     simulation.world().applications.stop(knownProcess(simulation, process));
 }
 
+constexpr std::array<std::string_view, 3> appActions{"start", "move", "stop"};
+
 void app(Simulation& simulation, Arguments& arguments) {
-    const std::string& action = arguments.take("start, move or stop");
+    const std::string_view action = takeOneOf(appActions, arguments);
     if (action == "start") {
         startApplication(simulation, arguments);
     } else if (action == "move") {
         moveApplication(simulation, arguments);
-    } else if (action == "stop") {
-        stopApplication(simulation, arguments);
     } else {
-        throw ScenarioError(quoted(action) + " is not start, move or stop");
+        stopApplication(simulation, arguments);
     }
 }
 
@@ -89,13 +91,11 @@ void front(Simulation& simulation, Arguments& arguments) {
 
 void audio(Simulation& simulation, Arguments& arguments) {
     FakeAudioProcesses& processes = simulation.world().audioProcesses;
-    const std::string& word = arguments.take("unsupported, in or out");
+    const std::string_view word = takeOneOf(sounds, arguments);
     if (word == "in") {
         processes.setRecording(arguments.takeRest());
     } else if (word == "out") {
         processes.setPlaying(arguments.takeRest());
-    } else if (word != "unsupported") {
-        throw ScenarioError(quoted(word) + " is not unsupported, in or out");
     }
     arguments.end();
     processes.setSupported(word != "unsupported");
@@ -122,10 +122,7 @@ void browser(Simulation& simulation, Arguments& arguments) {
     if (!browser) {
         throw ScenarioError(quoted(kind) + " is no browser");
     }
-    const std::string& word = arguments.take("permission or url");
-    if (word != "permission" && word != "url") {
-        throw ScenarioError(quoted(word) + " is not permission or url");
-    }
+    const std::string_view word = takeOneOf(browserFacts, arguments);
     const std::string& value = arguments.take(word == "url" ? "TEXT" : "VALUE");
     arguments.end();
     if (word == "url") {
@@ -136,10 +133,7 @@ void browser(Simulation& simulation, Arguments& arguments) {
 }
 
 void loginItem(Simulation& simulation, Arguments& arguments) {
-    const std::string& word = arguments.take("ok or failing");
-    if (word != "ok" && word != "failing") {
-        throw ScenarioError(quoted(word) + " is not ok or failing");
-    }
+    const std::string_view word = takeOneOf(loginItemAnswers, arguments);
     std::optional<std::string> failure;
     if (word == "failing") {
         failure = arguments.take("TEXT");
@@ -148,17 +142,27 @@ void loginItem(Simulation& simulation, Arguments& arguments) {
     simulation.world().loginItem.setFailure(std::move(failure));
 }
 
-constexpr std::array<NamedCommand, 6> commands{{{"display", display},
-                                                {"app", app},
-                                                {"front", front},
-                                                {"audio", audio},
-                                                {"browser", browser},
-                                                {"login-item", loginItem}}};
+FormList browserForms() {
+    return joined({formsBehind("* permission", rawValueForms<FakeBrowserPermission>()),
+                   {"* url *", "* url error", "* url \"\""},
+                   rawValueForms<Browser>()});
+}
+
+constexpr std::array<NamedCommand, 6> commands{
+    {{"display", display, [] { return formsOf(powers); }},
+     {"app", app, [] { return formsOf(appActions); }},
+     {"front", front,
+      [] {
+          return FormList{"*", "none"};
+      }},
+     {"audio", audio, [] { return formsOf(sounds); }},
+     {"browser", browser, browserForms},
+     {"login-item", loginItem, [] { return formsOf(loginItemAnswers); }}}};
 
 } // namespace
 
-Command senseCommand(std::string_view name) {
-    return commandNamed(commands, name);
+Commands senseCommands() {
+    return commands;
 }
 
 } // namespace kestrelfen

@@ -65,8 +65,8 @@ constexpr std::array<NamedReader, 2> readers{
 
 } // namespace
 
-Reader senseReader(std::string_view name) {
-    return readerNamed(readers, name);
+Readers senseReaders() {
+    return readers;
 }
 
 } // namespace kestrelfen

@@ -10,17 +10,17 @@ namespace kestrelfen {
 
 namespace {
 
+constexpr std::array<std::string_view, 2> directions{"up", "down"};
+constexpr std::array<std::string_view, 3> listActions{"add", "remove", "restore"};
+
 void step(Simulation& simulation, Arguments& arguments) {
     const std::string key = arguments.take("KEY");
-    const std::string& word = arguments.take("up or down");
-    arguments.end();
     const Stepper* const stepper = Stepper::find(key);
     if (!stepper) {
         throw ScenarioError(quoted(key) + " has no stepper");
     }
-    if (word != "up" && word != "down") {
-        throw ScenarioError(quoted(word) + " is not up or down");
-    }
+    const std::string_view word = takeOneOf(directions, arguments);
+    arguments.end();
     simulation.program();
     SettingsControls controls(simulation.world().preferences);
     if (!controls.step(*stepper, word == "up" ? StepDirection::up : StepDirection::down)) {
@@ -35,7 +35,7 @@ SmartPauseKind kindOf(const std::string& word) {
     throw ScenarioError(quoted(word) + " is no kind of smart pause");
 }
 
-void addOrRemove(AppListEditor& editor, const std::string& action, const std::string& bundleID) {
+void addOrRemove(AppListEditor& editor, std::string_view action, const std::string& bundleID) {
     if (action == "add" && editor.offers(bundleID)) {
         editor.add(bundleID);
     } else if (action == "remove" && editor.lists(bundleID)) {
@@ -47,11 +47,8 @@ void addOrRemove(AppListEditor& editor, const std::string& action, const std::st
 
 void apps(Simulation& simulation, Arguments& arguments) {
     const SmartPauseKind kind = kindOf(arguments.take("KIND"));
-    const std::string action = arguments.take("add, remove or restore");
+    const std::string_view action = takeOneOf(listActions, arguments);
     const bool restores = action == "restore";
-    if (!restores && action != "add" && action != "remove") {
-        throw ScenarioError(quoted(action) + " is not add, remove or restore");
-    }
     const std::string bundleID = restores ? std::string() : arguments.take("BUNDLE");
     arguments.end();
     simulation.program();
@@ -81,12 +78,21 @@ void website(Simulation& simulation, Arguments& arguments) {
     simulation.settle();
 }
 
-constexpr std::array<NamedCommand, 3> commands{{{"step", step}, {"apps", apps}, {"website", website}}};
+FormList stepForms() {
+    return joined({formsOf(Stepper::keys()), formsBehind("*", formsOf(directions))});
+}
+
+FormList appsForms() {
+    return joined({rawValueForms<SmartPauseKind>(), formsBehind("*", formsOf(listActions))});
+}
+
+constexpr std::array<NamedCommand, 3> commands{
+    {{"step", step, stepForms}, {"apps", apps, appsForms}, {"website", website, rawValueForms<Browser>}}};
 
 } // namespace
 
-Command settingsCommand(std::string_view name) {
-    return commandNamed(commands, name);
+Commands settingsCommands() {
+    return commands;
 }
 
 } // namespace kestrelfen

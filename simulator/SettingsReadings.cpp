@@ -62,6 +62,7 @@ struct ControlReader {
     }
     Json operator()(const ToggleState& toggle) const { return toggle.isOn; }
     Json operator()(const CardState& card) const { return card.isSelected; }
+    Json operator()(const ToldState& told) const { return told.word; }
 };
 
 Json objectOf(const PaneRow& row) {
@@ -115,12 +116,13 @@ Json appListReading(Simulation& simulation, Arguments& arguments) {
             {"running", listOf(editor.runningChoices())}};
 }
 
-constexpr std::array<NamedReader, 2> readers{{{"pane", paneReading}, {"app-list", appListReading}}};
+constexpr std::array<NamedReader, 2> readers{{{"pane", paneReading, rawValueForms<SettingsPane>},
+                                              {"app-list", appListReading, rawValueForms<SmartPauseKind>}}};
 
 } // namespace
 
-Reader settingsReader(std::string_view name) {
-    return readerNamed(readers, name);
+Readers settingsReaders() {
+    return readers;
 }
 
 } // namespace kestrelfen

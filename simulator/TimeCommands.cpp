@@ -97,8 +97,8 @@ constexpr std::array<NamedCommand, 6> commands{
 
 } // namespace
 
-Command timeCommand(std::string_view name) {
-    return commandNamed(commands, name);
+Commands timeCommands() {
+    return commands;
 }
 
 } // namespace kestrelfen

@@ -171,8 +171,8 @@ Json absentView(std::initializer_list<const char*> keys) {
     return json;
 }
 
-Reader viewReader(std::string_view name) {
-    return readerNamed(readers, name);
+Readers viewReaders() {
+    return readers;
 }
 
 } // namespace kestrelfen

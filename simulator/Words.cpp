@@ -25,7 +25,21 @@ char takeFront(std::string_view& rest) {
     return character;
 }
 
-char escaped(char character) {
+bool continuesACharacter(char byte) {
+    return (static_cast<unsigned char>(byte) & 0xc0U) == 0x80U;
+}
+
+[[noreturn]] void refuseEscape(std::string_view rest) {
+    std::size_t length = 1;
+    while (length < rest.size() && continuesACharacter(rest[length])) {
+        ++length;
+    }
+    throw ScenarioError("unknown escape \\" + std::string(rest.substr(0, length)));
+}
+
+char takeEscaped(std::string_view& rest) {
+    const std::string_view escape = rest;
+    const char character = takeFront(rest);
     switch (character) {
     case '"':
     case '\\':
@@ -33,7 +47,7 @@ char escaped(char character) {
     case 'n':
         return '\n';
     default:
-        throw ScenarioError(std::string("unknown escape \\") + character);
+        refuseEscape(escape);
     }
 }
 
@@ -41,7 +55,7 @@ std::string takeQuoted(std::string_view& rest) {
     std::string word;
     takeFront(rest);
     for (char character = takeFront(rest); character != '"'; character = takeFront(rest)) {
-        word += character == '\\' ? escaped(takeFront(rest)) : character;
+        word += character == '\\' ? takeEscaped(rest) : character;
     }
     if (!rest.empty() && !isBlank(rest.front())) {
         throw ScenarioError("a word is glued to a closing quote");

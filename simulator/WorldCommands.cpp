@@ -4,12 +4,16 @@
 #include "Values.hpp"
 
 #include <array>
+#include <utility>
 
 namespace kestrelfen {
 
 namespace {
 
 constexpr std::int64_t mostDisplays = 1'000;
+constexpr std::array<std::string_view, 3> inputKinds{"active", "away", "age"};
+constexpr std::array<std::string_view, 2> focusWords{"active", "inactive"};
+constexpr std::array<std::string_view, 3> lockAnswers{"ok", "missing", "failing"};
 
 PreferenceDictionary takeDictionary(Arguments& arguments) {
     PreferenceDictionary dictionary;
@@ -20,29 +24,40 @@ PreferenceDictionary takeDictionary(Arguments& arguments) {
     return dictionary;
 }
 
-PreferenceValue takePreference(Arguments& arguments) {
-    const std::string type = arguments.take("TYPE");
-    if (type == "strings") {
-        return arguments.takeRest();
-    }
-    if (type == "dict") {
-        return takeDictionary(arguments);
-    }
-    if (type != "bool" && type != "int" && type != "double" && type != "string" && type != "date") {
-        throw ScenarioError(quoted(type) + " is no type of a preference");
-    }
+PreferenceValue takeStrings(Arguments& arguments) {
+    return arguments.takeRest();
+}
+
+template <auto valueOf>
+PreferenceValue takeSingle(Arguments& arguments) {
     const std::string& word = arguments.take("VALUE");
     arguments.end();
-    if (type == "bool") {
-        return booleanOf(word);
+    return valueOf(word);
+}
+
+std::string textOf(const std::string& word) {
+    return word;
+}
+
+using TakePreference = PreferenceValue (*)(Arguments&);
+
+constexpr std::array<std::pair<std::string_view, TakePreference>, 7> preferenceTypes{
+    {{"bool", takeSingle<booleanOf>},
+     {"int", takeSingle<integerOf>},
+     {"double", takeSingle<realOf>},
+     {"string", takeSingle<textOf>},
+     {"date", takeSingle<dateOf>},
+     {"strings", takeStrings},
+     {"dict", [](Arguments& arguments) { return PreferenceValue(takeDictionary(arguments)); }}}};
+
+PreferenceValue takePreference(Arguments& arguments) {
+    const std::string type = arguments.take("TYPE");
+    for (const auto& [name, takeValue] : preferenceTypes) {
+        if (name == type) {
+            return takeValue(arguments);
+        }
     }
-    if (type == "int") {
-        return integerOf(word);
-    }
-    if (type == "double") {
-        return realOf(word);
-    }
-    return type == "date" ? PreferenceValue(dateOf(word)) : PreferenceValue(word);
+    throw ScenarioError(quoted(type) + " is no type of a preference");
 }
 
 void pref(Simulation& simulation, Arguments& arguments) {
@@ -58,7 +73,7 @@ void unpref(Simulation& simulation, Arguments& arguments) {
 
 void input(Simulation& simulation, Arguments& arguments) {
     FakeInputIdle& idle = simulation.world().inputIdle;
-    const std::string& kind = arguments.take("active, away or age");
+    const std::string_view kind = takeOneOf(inputKinds, arguments);
     if (kind == "age") {
         const std::string& word = arguments.take("SECONDS");
         const double age = secondsOf(word);
@@ -70,13 +85,7 @@ void input(Simulation& simulation, Arguments& arguments) {
         return;
     }
     arguments.end();
-    if (kind == "active") {
-        idle.setActive();
-    } else if (kind == "away") {
-        idle.setAway();
-    } else {
-        throw ScenarioError(quoted(kind) + " is not active, away or age");
-    }
+    kind == "active" ? idle.setActive() : idle.setAway();
 }
 
 void displays(Simulation& simulation, Arguments& arguments) {
@@ -91,11 +100,8 @@ void displays(Simulation& simulation, Arguments& arguments) {
 }
 
 void program(Simulation& simulation, Arguments& arguments) {
-    const std::string& word = arguments.take("active or inactive");
+    const std::string_view word = takeOneOf(focusWords, arguments);
     arguments.end();
-    if (word != "active" && word != "inactive") {
-        throw ScenarioError(quoted(word) + " is not active or inactive");
-    }
     simulation.world().programFocus.setActive(word == "active");
 }
 
@@ -111,31 +117,30 @@ void signal(Simulation& simulation, Arguments& arguments) {
 
 void lock(Simulation& simulation, Arguments& arguments) {
     using Outcome = SessionLockResult::Outcome;
-    const std::string& word = arguments.take("ok, missing or failing");
+    const std::string_view word = takeOneOf(lockAnswers, arguments);
     SessionLockResult result{Outcome::started};
     if (word == "failing") {
         result = {Outcome::failed, arguments.take("TEXT")};
     } else if (word == "missing") {
         result = {Outcome::missing};
-    } else if (word != "ok") {
-        throw ScenarioError(quoted(word) + " is not ok, missing or failing");
     }
     arguments.end();
     simulation.world().sessionLock.setResult(result);
 }
 
-constexpr std::array<NamedCommand, 7> commands{{{"pref", pref},
-                                                {"unpref", unpref},
-                                                {"input", input},
-                                                {"displays", displays},
-                                                {"program", program},
-                                                {"signal", signal},
-                                                {"lock", lock}}};
+constexpr std::array<NamedCommand, 7> commands{
+    {{"pref", pref, [] { return formsBehind("*", firstWordForms(preferenceTypes)); }},
+     {"unpref", unpref},
+     {"input", input, [] { return formsOf(inputKinds); }},
+     {"displays", displays},
+     {"program", program, [] { return formsOf(focusWords); }},
+     {"signal", signal, rawValueForms<SystemSignal>},
+     {"lock", lock, [] { return formsOf(lockAnswers); }}}};
 
 } // namespace
 
-Command worldCommand(std::string_view name) {
-    return commandNamed(commands, name);
+Commands worldCommands() {
+    return commands;
 }
 
 } // namespace kestrelfen

@@ -1,4 +1,4 @@
-"""Runs one scenario that must not end well, and compares what it leaves with the comments at its top.
+"""Runs one scenario and compares what it leaves, to the letter, with the comments at its top.
 
     # status: N        the exit status
     # output: TEXT     the lines of the standard output, in order

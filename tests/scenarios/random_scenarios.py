@@ -14,6 +14,7 @@ import sys
 from concurrent.futures import ThreadPoolExecutor
 
 from history_rules import HistoryJudge
+from second_rules import SecondsJudge
 from timer_rules import Broken, Judge
 
 SEEDS = range(300)
@@ -21,9 +22,12 @@ COMMANDS = 60
 SIGNALS = ("willSleep didWake screensDidSleep screensDidWake sessionDidResignActive sessionDidBecomeActive "
            "screenIsLocked screenIsUnlocked").split()
 ZONES = ("UTC Europe/Berlin America/New_York Asia/Kathmandu Pacific/Auckland Africa/Cairo America/St_Johns "
-         "Pacific/Apia").split()
+         "Pacific/Apia America/Havana Australia/Lord_Howe Asia/Beirut Pacific/Kiritimati").split()
 CLOCKS = ("2026-03-09T23:59:55Z 2026-03-10T00:00:10Z 2026-03-09T08:00:00Z 2026-03-29T00:59:50Z "
-          "2026-10-25T00:59:50.5Z 2026-03-08T06:59:59.999Z 2027-01-01T04:59:59Z 2026-03-09T07:00:00Z").split()
+          "2026-10-25T00:59:50.5Z 2026-03-08T06:59:59.999Z 2027-01-01T04:59:59Z 2026-03-09T07:00:00Z "
+          # Where a midnight is skipped or lived twice, and where the clocks move by half an hour.
+          "2026-03-08T04:59:50Z 2026-11-01T03:59:50Z 2026-03-28T21:59:50Z 2026-04-23T21:59:50Z "
+          "2026-10-29T20:59:50Z 2026-04-04T14:59:50Z 2026-10-03T15:29:50Z 2026-03-09T22:59:57Z").split()
 PREFERENCES = [
     ("workIntervalSeconds", "double", (60, 300, 900.5, 1200)),
     ("breakDurationSeconds", "double", (5, 20, 60, 59.9)),
@@ -54,6 +58,11 @@ PREFERENCES = [
 BUNDLES = "com.apple.Safari com.apple.Safari org.editor org.mail us.zoom.xos com.apple.screencaptureui -".split()
 READINGS = ["engine", "overlay", "warning", "status-item", "tracker", "smart-pause", "day", "days 2000-01-01",
             "history 2000-01-01 100000", "app-totals 2000-01-01", "site-totals 2000-01-01", "tasks", "prefs"]
+CHOICES = ("enforcementLevel casual", "enforcementLevel hardcore", "idleMode automatic", "idleMode custom",
+           "resumeAutomatically true", "pauseOnScreenLock true", "smartPauseFocusApps true", "allowEndBreakEarly true",
+           "doubleEscapeAction skip", "historyRetentionDays 30", "historyRetentionDays 0", "warningHUDEnabled true")
+STEPS = ("workIntervalSeconds", "breakDurationSeconds", "longBreakDurationSeconds", "longBreakEvery",
+         "preBreakWarningLeadSeconds", "idleThresholdSeconds")
 TITLES = ("Read", "Write", "Call")
 QUOTAS = {"snoozesPerDay": (-1, 0, 1, 3), "snoozesPerBreak": (-1, 0, 1, 2), "advanceSkipsPerDay": (-1, 0, 1, 2)}
 
@@ -95,7 +104,7 @@ class Scenario:
             simple = pick(("launch", "launch", "launch", "run 30", "sleep 3600"))
             return pick((lambda: simple, lambda: simple, self.world, self.sense, self.disk, self.preference))()
         kinds = [self.passing] * 8 + [self.operation] * 6 + [self.press] * 5 + [self.world] * 4
-        kinds += [self.sense] * 6 + [self.task] * 4 + [self.disk, self.preference, self.end]
+        kinds += [self.sense] * 6 + [self.window] * 4 + [self.task] * 4 + [self.disk, self.preference, self.end]
         return pick(kinds)()
 
     def episode(self):
@@ -185,6 +194,20 @@ class Scenario:
                      f"audio out {pick(('', '', 'org.videolan.vlc', 'org.other'))}",
                      f"display {pick(('awake', 'awake', 'asleep'))}"))
 
+    def window(self):
+        """What a person does in the windows, as far as it leaves the quotas as they are."""
+        pick = self.random.choice
+        return pick((f"press popover {pick((1, 2, 3))}", f"press dashboard {pick((1, 2, 3))}",
+                     f"hover {pick(('none', '2026-03-09', '2026-03-08'))}",
+                     f"choose usageSource {pick(('apps', 'websites'))}",
+                     f"category {pick(('org.editor', 'com.apple.Safari'))} {pick(('work', 'other', 'reset'))}",
+                     f"website {pick(('safari', 'chrome'))} {pick(('true', 'false'))}",
+                     f"apps focusApps {pick(('add org.editor', 'remove org.editor', 'restore'))}",
+                     f"choose {pick(CHOICES)}", f"step {pick(STEPS)} {pick(('up', 'down'))}",
+                     f"go {pick(('tasks', 'breaks', 'settings', 'usageDetail'))}",
+                     f"close {pick(('main', 'settings'))}",
+                     f"tab {pick(('tasks', 'breaks', 'screenTime'))}", f"pane {pick(('timing', 'about'))}"))
+
     def task(self):
         pick = self.random.choice
         return pick((f"task add {pick(TITLES)}", f"task activate {pick(TITLES)}", f"task activate {pick(TITLES)}",
@@ -221,7 +244,7 @@ def failure_of(simulator, seed):
     if run.returncode != 0 or run.stderr:
         return f"seed {seed}: exit status {run.returncode}: {run.stderr.strip()}"
     judge = Judge(scenario.limits)
-    history = HistoryJudge()
+    history, seconds = HistoryJudge(), SecondsJudge()
     outcomes = list(outcome_of_each_command(run.stdout))
     if len(outcomes) != len(scenario.commands):
         return f"seed {seed}: {len(scenario.commands)} commands, but {len(outcomes)} outcomes"
@@ -229,6 +252,7 @@ def failure_of(simulator, seed):
         try:
             judge.judge(command, *outcome)
             history.judge(command, outcome[1])
+            seconds.judge(command, outcome[1])
         except Broken as rule:
             return f"seed {seed}, command {number}, {command}: not so: {rule}\n{json.dumps(outcome[1])}"
     return None

@@ -130,6 +130,13 @@ TEST_F(CommandLine, LastLineNeedsNoLineFeed) {
     EXPECT_EQ(run.errors, "-:2: expected prefs values.a 2, got 1\n");
 }
 
+TEST_F(CommandLine, LineMayBeVeryLong) {
+    const std::string text(1'000'000, 'x');
+    const SimulatorRun run = simulate("pref a string " + text + "\nexpect prefs values.a " + text + "y\n");
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.errors, "-:2: expected prefs values.a " + text + "y, got " + text + "\n");
+}
+
 TEST_F(CommandLine, MalformedLineEndsTheRunWithStatusTwo) {
     const SimulatorRun run = simulate("show prefs\nshow what\nshow prefs\n");
     EXPECT_EQ(run.status, 2);

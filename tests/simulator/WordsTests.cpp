@@ -58,6 +58,7 @@ TEST(Words, AnyOtherEscapeIsMalformed) {
     EXPECT_EQ(errorOf(R"("a\tb")"), R"(unknown escape \t)");
     EXPECT_EQ(errorOf(R"("a\ b")"), R"(unknown escape \ )");
     EXPECT_EQ(errorOf(R"("a\'")"), R"(unknown escape \')");
+    EXPECT_EQ(errorOf(R"("a\→b")"), R"(unknown escape \→)");
 }
 
 TEST(Words, QuoteInsideAWordIsMalformed) {

@@ -21,6 +21,14 @@ const Stepper* Stepper::find(std::string_view key) {
     return found == steppers.end() ? nullptr : *found;
 }
 
+std::vector<std::string_view> Stepper::keys() {
+    std::vector<std::string_view> keys;
+    for (const Stepper* const stepper : steppers) {
+        keys.push_back(stepper->key_);
+    }
+    return keys;
+}
+
 double Stepper::value(const Preferences& preferences) const {
     if (number_ == Number::real) {
         return Settings::real(preferences, key_, fallback_);

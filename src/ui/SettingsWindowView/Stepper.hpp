@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string_view>
+#include <vector>
 
 namespace kestrelfen {
 
@@ -26,6 +27,9 @@ class Stepper {
 
     /// The one bound to `key`, or null.
     static const Stepper* find(std::string_view key);
+
+    /// Of all that there are.
+    static std::vector<std::string_view> keys();
 
     std::string_view key() const { return key_; }
     double value(const Preferences& preferences) const;
