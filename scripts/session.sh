@@ -48,11 +48,13 @@ wait_for_file() {
     return 1
 }
 
-# start_virtual_display WIDTHxHEIGHT: sets DISPLAY.
+# start_virtual_display WIDTHxHEIGHT [OPTION…]: sets DISPLAY. The options are those of Xvfb.
 start_virtual_display() {
+    local screen=$1
+    shift
     session_folder=$(mktemp -d "${TMPDIR:-/tmp}/kestrelfen-session-XXXXXX")
     local number=$session_folder/display
-    start_in_session Xvfb Xvfb -displayfd 3 -screen 0 "$1x24" -noreset -nolisten tcp 3>"$number"
+    start_in_session Xvfb Xvfb -displayfd 3 -screen 0 "${screen}x24" -noreset -nolisten tcp "$@" 3>"$number"
     if ! wait_for_file "$number" "${session_pids[-1]}"; then
         echo "No display can be reached, and no virtual one can be started:" >&2
         tail -n 5 "$session_folder/Xvfb.log" >&2
