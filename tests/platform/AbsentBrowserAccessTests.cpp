@@ -11,6 +11,7 @@ TEST(AbsentBrowserAccessTest, NoBrowserRunsAndNoneIsAsked) {
     FakeClock clock{Date{}};
     FakeMainQueue queue(clock);
     AbsentBrowserAccess access(queue);
+    EXPECT_FALSE(access.isAvailable());
     EXPECT_FALSE(access.run("com.google.Chrome", "a script"));
     EXPECT_EQ(access.permissionStatus("com.google.Chrome", false), -600);
     EXPECT_EQ(access.permissionStatus("com.google.Chrome", true), -600);

@@ -84,9 +84,13 @@ TYPED_TEST_P(SystemSignalsContract, AnObserverMayBeAddedWhileAnotherIsTold) {
     EXPECT_EQ(calls, 1);
 }
 
+TYPED_TEST_P(SystemSignalsContract, AMachineOnWhichAllCanHappenSaysSo) {
+    EXPECT_EQ(this->systemSignals().capabilities(), (SystemSignals::Capabilities{true, true, true, true}));
+}
+
 REGISTER_TYPED_TEST_SUITE_P(SystemSignalsContract, EachIsDeliveredOnceAChangeAndToItsOwnObserversAlone,
                             EveryObserverIsTold, AnObservationThatHasEndedHearsNothing,
                             AnObserverMayEndItselfAndOthersWhileItIsTold,
-                            AnObserverMayBeAddedWhileAnotherIsTold);
+                            AnObserverMayBeAddedWhileAnotherIsTold, AMachineOnWhichAllCanHappenSaysSo);
 
 } // namespace kestrelfen

@@ -15,5 +15,11 @@ class FakeSubject {
 
 INSTANTIATE_TYPED_TEST_SUITE_P(Fake, SystemSignalsContract, FakeSubject);
 
+TEST(FakeSystemSignalsTest, TellsTheCapabilitiesThatItWasGiven) {
+    FakeSystemSignals signals;
+    signals.setCapabilities({.lock = true});
+    EXPECT_EQ(signals.capabilities(), (SystemSignals::Capabilities{false, true, false, false}));
+}
+
 } // namespace
 } // namespace kestrelfen

@@ -17,6 +17,7 @@ class RecordingSignals final : public SystemSignals {
         observed.push_back(signal);
         return fake_.observe(signal, std::move(deliver));
     }
+    Capabilities capabilities() const override { return fake_.capabilities(); }
 
     void send(SystemSignal signal) const { fake_.send(signal); }
 

@@ -33,6 +33,7 @@ class FakeApplications final : public Applications {
     void setRunningUnseen(const std::string& bundleIdentifier, bool running);
     void setInstalled(const std::string& bundleIdentifier, bool installed);
     void setAvailable(bool available) { isAvailable_ = available; }
+    void setMissesSome(bool missesSome) { missesSome_ = missesSome; }
 
     bool has(std::int32_t processIdentifier) const;
     /// In the order of starting.
@@ -42,6 +43,7 @@ class FakeApplications final : public Applications {
     std::optional<RunningApplication> frontmost() const override;
     bool isRunning(std::string_view bundleIdentifier) const override;
     bool isAvailable() const override { return isAvailable_; }
+    bool missesSome() const override { return missesSome_; }
     bool isInstalled(std::string_view bundleIdentifier) const override;
     void launchInBackground(std::string_view bundleIdentifier, std::function<void()> completion) override;
 
@@ -55,6 +57,7 @@ class FakeApplications final : public Applications {
     Identifiers runningUnseen_;
     Identifiers installed_;
     bool isAvailable_ = true;
+    bool missesSome_ = false;
 };
 
 } // namespace kestrelfen

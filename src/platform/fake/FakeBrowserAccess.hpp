@@ -26,6 +26,8 @@ class FakeBrowserAccess final : public BrowserAccess {
     FakeBrowserAccess(FakeApplications& applications, MainQueue& mainQueue)
         : applications_(applications), mainQueue_(mainQueue) {}
 
+    void setAvailable(bool available) { isAvailable_ = available; }
+
     /// Answers alike with and without asking the person. Also says whether the browser is installed, and
     /// whether it runs unseen.
     void setPermission(const std::string& bundleIdentifier, FakeBrowserPermission permission);
@@ -38,6 +40,7 @@ class FakeBrowserAccess final : public BrowserAccess {
     /// The script that ran last.
     const std::string& lastScript() const { return lastScript_; }
 
+    bool isAvailable() const override { return isAvailable_; }
     std::optional<ScriptResult> run(std::string_view bundleIdentifier, std::string_view script) override;
     std::optional<int> permissionStatus(std::string_view bundleIdentifier, bool askUser) override;
     void askOffMain(std::function<std::optional<int>()> question,
@@ -55,6 +58,7 @@ class FakeBrowserAccess final : public BrowserAccess {
     MainQueue& mainQueue_;
     std::map<std::string, Browser, std::less<>> browsers_;
     std::string lastScript_;
+    bool isAvailable_ = true;
 };
 
 } // namespace kestrelfen

@@ -20,6 +20,7 @@ class FakeSessionLock final : public SessionLock {
         }
         return result_;
     }
+    bool isAvailable() const override { return result_.outcome != SessionLockResult::Outcome::missing; }
 
   private:
     SessionLockResult result_{SessionLockResult::Outcome::started};

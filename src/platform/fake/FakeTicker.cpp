@@ -19,6 +19,14 @@ std::unique_ptr<Ticker::Handle> FakeTicker::start(double seconds, std::function<
     return std::make_unique<Running>(timers_, std::move(timer));
 }
 
+std::vector<double> FakeTicker::periods() const {
+    std::vector<double> periods;
+    for (const auto& timer : *timers_) {
+        periods.push_back(timer->seconds);
+    }
+    return periods;
+}
+
 void FakeTicker::fire() {
     for (std::size_t index = 0; index < timers_->size(); ++index) {
         const auto timer = (*timers_)[index];

@@ -15,6 +15,8 @@ class FakeTicker final : public Ticker {
     void fire();
 
     std::size_t running() const { return timers_->size(); }
+    /// Of each running timer, in seconds.
+    std::vector<double> periods() const;
 
   private:
     struct Timer {

@@ -15,6 +15,8 @@ namespace {
 
 using namespace std::chrono_literals;
 
+constexpr char accessibilityName[] = "org.a11y.Bus";
+
 /// A browser that has just started takes a moment to come onto the bus.
 constexpr int presenceLooks = 10;
 constexpr double presenceLookSeconds = 0.25;
@@ -37,7 +39,8 @@ struct AtspiBrowserAccess::Consent {
 
 AtspiBrowserAccess::AtspiBrowserAccess(const Services& services, std::chrono::milliseconds answerLifetime)
     : services_(services), bus_(services.sessionBus), switch_(services.sessionBus, services.preferences),
-      reader_(bus_, services.identity), finder_(bus_, services.identity) {
+      accessibility_(services.sessionBus, accessibilityName), reader_(bus_, services.identity),
+      finder_(bus_, services.identity) {
     forgetting_.setSingleShot(true);
     forgetting_.setInterval(answerLifetime);
     QObject::connect(&forgetting_, &QTimer::timeout, &forgetting_, [this] { forgetAnswer(); });

@@ -4,6 +4,7 @@
 #include "platform/linux/AccessibilityBus.hpp"
 #include "platform/linux/AccessibilitySwitch.hpp"
 #include "platform/linux/BrowserTabReader.hpp"
+#include "platform/linux/StartableService.hpp"
 #include "platform/ports/BrowserAccess.hpp"
 
 #include <QThreadPool>
@@ -41,6 +42,8 @@ class AtspiBrowserAccess final : public BrowserAccess {
     AtspiBrowserAccess& operator=(const AtspiBrowserAccess&) = delete;
     ~AtspiBrowserAccess() override;
 
+    bool isAvailable() const override { return accessibility_.isReachable(); }
+
     /// Needs no script. The text is the page's address without its path. Each answer is given once, and only
     /// for some seconds.
     std::optional<ScriptResult> run(std::string_view bundleIdentifier, std::string_view script) override;
@@ -77,6 +80,7 @@ class AtspiBrowserAccess final : public BrowserAccess {
     const Services services_;
     AccessibilityBus bus_;
     AccessibilitySwitch switch_;
+    StartableService accessibility_;
     BrowserTabReader reader_;
     BrowserFinder finder_;
     std::optional<Question> question_;

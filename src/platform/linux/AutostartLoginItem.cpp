@@ -18,6 +18,8 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::string_view group = "Desktop Entry";
+/// Names the program without which the desktop passes over the entry in silence.
+constexpr const char* conditionKey = "TryExec";
 constexpr const char* hiddenKey = "Hidden";
 constexpr const char* switchKey = "X-GNOME-Autostart-enabled";
 
@@ -41,7 +43,9 @@ bool startsSomething(const std::map<std::string, std::string, std::less<>>& valu
     const auto line = values.find("Exec");
     const auto words =
         line == values.end() ? std::vector<std::string>() : execWords(unescapedValue(line->second));
-    return !words.empty() && isRunnable(words.front());
+    const auto condition = values.find(conditionKey);
+    return !words.empty() && isRunnable(words.front()) &&
+           (condition == values.end() || isRunnable(unescapedValue(condition->second)));
 }
 
 bool isInForce(const std::string& entry) {
@@ -63,6 +67,15 @@ std::string execValue(const std::string& program) {
         quoted += letter;
     }
     return quoted + '"';
+}
+
+/// As any value of a key file.
+std::string plainValue(std::string_view text) {
+    std::string value;
+    for (const char letter : text) {
+        value += letter == '\\' ? "\\\\" : std::string(1, letter);
+    }
+    return value;
 }
 
 std::vector<fs::path> systemConfigurationFolders() {
@@ -109,7 +122,8 @@ std::string AutostartLoginItem::freshEntry() const {
            "Comment=Eye breaks at the right time\n"
            "Icon=app.kestrelfen.Kestrelfen\n"
            "Exec=" +
-           execValue(places_.program.string()) +
+           execValue(places_.program.string()) + "\n" + conditionKey + "=" +
+           plainValue(places_.program.string()) +
            "\n"
            "Terminal=false\n"
            "X-GNOME-Autostart-enabled=true\n";

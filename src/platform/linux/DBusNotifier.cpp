@@ -8,6 +8,9 @@ namespace kestrelfen {
 
 namespace {
 
+constexpr char daemonName[] = "org.freedesktop.Notifications";
+constexpr char daemonPath[] = "/org/freedesktop/Notifications";
+
 /// The daemon's number for a notification that replaces none.
 constexpr uint newNotification = 0;
 /// The daemon's own choice of how long to show it.
@@ -25,12 +28,14 @@ QVariantMap hints(const Notification& notification) {
 
 } // namespace
 
+DBusNotifier::DBusNotifier(const QDBusConnection& sessionBus, BusLink& link)
+    : bus_(sessionBus), daemon_(link, daemonName) {}
+
 void DBusNotifier::post(const Notification& notification) {
-    auto message =
-        QDBusMessage::createMethodCall("org.freedesktop.Notifications", "/org/freedesktop/Notifications",
-                                       "org.freedesktop.Notifications", "Notify");
+    auto message = QDBusMessage::createMethodCall(daemonName, daemonPath, daemonName, "Notify");
     // The daemon reads the body as markup, and the title as it is.
-    message << "Kestrelfen" << newNotification << "kestrelfen" << QString::fromStdString(notification.title)
+    message << "Kestrelfen" << newNotification << "app.kestrelfen.Kestrelfen"
+            << QString::fromStdString(notification.title)
             << QString::fromStdString(notification.body).toHtmlEscaped() << QStringList()
             << hints(notification) << expireByDefault;
     bus_.send(message);

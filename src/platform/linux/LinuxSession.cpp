@@ -60,11 +60,21 @@ LinuxSession::Windows LinuxSession::makeWindows() {
         return {};
     }
     x11Windows_.emplace(needs_.catalogue);
-    return {std::make_unique<X11Applications>(*x11Windows_), std::make_unique<X11WindowList>(*x11Windows_)};
+    const auto desktop = wayland_ ? X11Applications::Desktop::wayland : X11Applications::Desktop::x11;
+    return {std::make_unique<X11Applications>(*x11Windows_, desktop),
+            std::make_unique<X11WindowList>(*x11Windows_)};
 }
 
 WaylandLayers* LinuxSession::layers() {
     return layers_ ? &*layers_ : nullptr;
+}
+
+OverlayReach LinuxSession::overlayReach(bool canUseLayers) const {
+    if (!wayland_ || (layers_ && canUseLayers)) {
+        return OverlayReach::everywhere;
+    }
+    return qEnvironmentVariableIsEmpty("DISPLAY") ? OverlayReach::ordinaryWindows
+                                                  : OverlayReach::throughXServer;
 }
 
 std::unique_ptr<Displays> LinuxSession::makeDisplays() {

@@ -12,6 +12,7 @@
 #include "platform/ports/EscapeKey.hpp"
 #include "platform/ports/InputIdle.hpp"
 #include "platform/ports/Log.hpp"
+#include "platform/ports/OverlayReach.hpp"
 #include "platform/ports/WindowList.hpp"
 
 #include <memory>
@@ -46,6 +47,9 @@ class LinuxSession {
 
     /// Null where no Wayland compositor lets programs lay something above all windows. Until the end.
     WaylandLayers* layers();
+
+    /// Whether the program can draw layers is its own affair.
+    OverlayReach overlayReach(bool canUseLayers) const;
 
     /// Null where there are no layers: then the windows go by the displays of their own toolkit.
     std::unique_ptr<Displays> makeDisplays();

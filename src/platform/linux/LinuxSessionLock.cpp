@@ -34,7 +34,7 @@ SessionLockResult LinuxSessionLock::lock() {
     return {SessionLockResult::Outcome::started};
 }
 
-std::deque<LinuxSessionLock::Way> LinuxSessionLock::ways() {
+std::deque<LinuxSessionLock::Way> LinuxSessionLock::ways() const {
     std::deque<Way> result;
     if (systemSignals_.session().isKnown()) {
         result.push_back([this](const auto& answer) { systemSignals_.session().lock(answer); });

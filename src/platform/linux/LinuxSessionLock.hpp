@@ -20,11 +20,12 @@ class LinuxSessionLock final : public SessionLock {
                      Log& log);
 
     SessionLockResult lock() override;
+    bool isAvailable() const override { return !ways().empty(); }
 
   private:
     using Way = std::function<void(const BusLink::Answer&)>;
 
-    std::deque<Way> ways();
+    std::deque<Way> ways() const;
     SessionLockResult whyNoWay() const;
     void tryNext();
     void checkAnswer(int attempt, const QDBusMessage& answer);

@@ -34,7 +34,7 @@ std::unique_ptr<SystemSignals::Observation> LinuxSystemSignals::observe(SystemSi
     return std::make_unique<Observing>(observers_[static_cast<std::size_t>(signal)].add(std::move(deliver)));
 }
 
-LinuxSystemSignals::Capabilities LinuxSystemSignals::capabilities() const {
+SystemSignals::Capabilities LinuxSystemSignals::capabilities() const {
     const bool hasScreenSaver = std::any_of(screenSavers_.begin(), screenSavers_.end(),
                                             [](const auto& saver) { return saver->isPresent(); });
     return {login1Sleep_.isKnown(), session_.isKnown() || hasScreenSaver, session_.isKnown(),

@@ -21,22 +21,13 @@ namespace kestrelfen {
 /// and come again.
 class LinuxSystemSignals final : public SystemSignals {
   public:
-    /// Which of the facts this session tells, as far as is known by now.
-    struct Capabilities {
-        bool sleep = false;
-        bool lock = false;
-        bool session = false;
-        bool displaySleep = false;
-        friend bool operator==(const Capabilities&, const Capabilities&) = default;
-    };
-
     using ScreenSavers = std::vector<std::unique_ptr<ScreenSaverService>>;
 
     LinuxSystemSignals(BusLink& systemBus, BusLink& sessionBus);
 
     std::unique_ptr<Observation> observe(SystemSignal signal, std::function<void()> deliver) override;
 
-    Capabilities capabilities() const;
+    Capabilities capabilities() const override;
 
     /// False also while nothing is known.
     bool isLocked() const { return isLocked_.value().value_or(false); }

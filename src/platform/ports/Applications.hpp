@@ -43,6 +43,9 @@ class Applications {
     /// Whether this session can tell at all.
     virtual bool isAvailable() const = 0;
 
+    /// Whether there may be others beside those that it tells of.
+    virtual bool missesSome() const { return false; }
+
     /// Whether an application of this identifier is installed, running or not.
     virtual bool isInstalled(std::string_view bundleIdentifier) const = 0;
 

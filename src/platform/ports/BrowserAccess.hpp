@@ -29,6 +29,9 @@ class BrowserAccess {
 
     virtual ~BrowserAccess() = default;
 
+    /// Whether this session has what browsers are asked by, on or off. A read of memory.
+    virtual bool isAvailable() const = 0;
+
     /// Asks the browser's active tab for its address with `script`, or by whatever this system has instead.
     /// Absent when the question could not even be made. Never waits: a system that answers later tells so.
     virtual std::optional<ScriptResult> run(std::string_view bundleIdentifier, std::string_view script) = 0;

@@ -19,6 +19,9 @@ class SessionLock {
 
     /// Starts to lock and returns at once. `missing` where this system offers no way.
     virtual SessionLockResult lock() = 0;
+
+    /// Whether there is a way now. A read of memory.
+    virtual bool isAvailable() const = 0;
 };
 
 } // namespace kestrelfen

@@ -37,6 +37,15 @@ struct EnumerationTable<SystemSignal> {
 /// start.
 class SystemSignals {
   public:
+    /// Which of the facts behind the signals this session tells, as far as is known by now.
+    struct Capabilities {
+        bool sleep = false;
+        bool lock = false;
+        bool session = false;
+        bool displaySleep = false;
+        friend bool operator==(const Capabilities&, const Capabilities&) = default;
+    };
+
     /// Destroying it ends the delivery.
     class Observation {
       public:
@@ -46,6 +55,9 @@ class SystemSignals {
     virtual ~SystemSignals() = default;
 
     virtual std::unique_ptr<Observation> observe(SystemSignal signal, std::function<void()> deliver) = 0;
+
+    /// A read of memory.
+    virtual Capabilities capabilities() const = 0;
 };
 
 } // namespace kestrelfen

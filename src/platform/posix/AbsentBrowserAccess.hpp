@@ -12,6 +12,7 @@ class AbsentBrowserAccess final : public BrowserAccess {
   public:
     explicit AbsentBrowserAccess(MainQueue& mainQueue) : mainQueue_(mainQueue) {}
 
+    bool isAvailable() const override { return false; }
     std::optional<ScriptResult> run(std::string_view /*bundleIdentifier*/,
                                     std::string_view /*script*/) override {
         return std::nullopt;

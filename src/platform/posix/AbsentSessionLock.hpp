@@ -8,6 +8,7 @@ namespace kestrelfen {
 class AbsentSessionLock final : public SessionLock {
   public:
     SessionLockResult lock() override { return {SessionLockResult::Outcome::missing}; }
+    bool isAvailable() const override { return false; }
 };
 
 } // namespace kestrelfen

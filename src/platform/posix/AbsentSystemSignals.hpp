@@ -11,6 +11,7 @@ class AbsentSystemSignals final : public SystemSignals {
                                          std::function<void()> /*deliver*/) override {
         return std::make_unique<Observation>();
     }
+    Capabilities capabilities() const override { return {}; }
 };
 
 } // namespace kestrelfen

@@ -91,7 +91,7 @@ class KestrelfenAppPlatform {
     OpenNotificationAuthorization notificationAuthorization;
     QDBusConnection sessionBus{QDBusConnection::sessionBus()};
     DBusSingleInstance instance{sessionBus, log};
-    DBusNotifier notifier{sessionBus};
+    DBusNotifier notifier{sessionBus, sessionLink};
     std::unique_ptr<EscapeKey> escapeKey{session.makeEscapeKey()};
     X11Compositor compositor;
     X11Panels panels;

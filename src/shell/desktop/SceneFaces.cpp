@@ -1,5 +1,6 @@
 #include "shell/desktop/SceneFaces.hpp"
 
+#include "base/Translated.hpp"
 #include "platform/ports/SaveDialog.hpp"
 #include "shell/AppDelegate.hpp"
 #include "shell/desktop/QuickSceneWindows.hpp"
@@ -40,6 +41,7 @@ std::unique_ptr<QObject> makeSettingsModel(AppDelegate& delegate, const SceneSer
         .openAutomationSettings = services.openAutomationSettings,
         .appVersion = KESTRELFEN_VERSION,
         .buildNumber = KESTRELFEN_BUILD,
+        .overlays = services.overlays,
     };
     return std::make_unique<SettingsModel>(std::move(sources), services.platform);
 }
@@ -52,7 +54,7 @@ void setSceneFaces(QuickSceneWindows& windows, AppDelegate& delegate, const Scen
                      smallestMainSize, [&windows, &delegate, platform = services.platform] {
                          return makeMainModel(windows, delegate, platform);
                      }});
-    windows.setFace(Scene::settings, {QStringLiteral("SettingsWindowView.qml"), QStringLiteral("Settings"),
+    windows.setFace(Scene::settings, {QStringLiteral("SettingsWindowView.qml"), QString::fromStdString(translated("Settings")),
                                       settingsSize, smallestSettingsSize, [&delegate, services] {
                                           return makeSettingsModel(delegate, services);
                                       }});

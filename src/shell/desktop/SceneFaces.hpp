@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/ports/OverlayReach.hpp"
 #include "platform/ports/Platform.hpp"
 
 #include <functional>
@@ -18,6 +19,7 @@ struct SceneServices {
     SaveDialog& saveDialog;
     /// Shows where the desktop lets the person allow that browsers are read.
     std::function<void()> openAutomationSettings;
+    OverlayReach overlays;
 };
 
 /// Tells `windows` what the main window and the settings are made of.

@@ -1,10 +1,10 @@
 #include "ui/SettingsWindowView/HistoryDataActions.hpp"
 
+#include "base/Translated.hpp"
 #include "platform/ports/Calendar.hpp"
 #include "platform/ports/Clock.hpp"
 #include "platform/ports/TextFileWriter.hpp"
 #include "store/KestrelfenStore.hpp"
-#include "ui/Plural.hpp"
 
 namespace kestrelfen {
 
@@ -34,8 +34,8 @@ void HistoryDataActions::exportCSV(const std::string& path) {
 
 void HistoryDataActions::write(const std::string& path, const std::string& text) {
     const auto error = writer_.write(path, text);
-    exportMessage_.set(error ? "Couldn't write the file: " + *error
-                             : "Exported to " + lastComponent(path) + ".");
+    exportMessage_.set(error ? translated("Couldn't write the file: %1", {*error})
+                             : translated("Exported to %1.", {lastComponent(path)}));
 }
 
 void HistoryDataActions::deleteAllHistory() {
@@ -51,7 +51,7 @@ std::optional<std::string> HistoryDataActions::deletionMessage() const {
     if (!count) {
         return std::nullopt;
     }
-    return "Deleted " + counted(*count, "day") + " of history.";
+    return translatedCount(*count, "Deleted %1 day of history.", "Deleted %1 days of history.");
 }
 
 } // namespace kestrelfen

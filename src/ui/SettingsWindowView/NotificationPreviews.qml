@@ -22,7 +22,7 @@ Row {
             spoken: modelData.spoken
             time: modelData.time
             body: modelData.body
-            opacity: modelData.isProminent ? 1 : 0.85
+            opacity: modelData.isProminent || Glass.highContrast ? 1 : 0.85
         }
     }
 }

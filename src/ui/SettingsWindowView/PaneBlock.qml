@@ -74,6 +74,7 @@ Column {
         PaneCards {
             width: block.width
             cards: block.rows
+            spokenLabel: block.settings.title
             areModes: block.kind === "modeCards"
             onChosen: (key, word) => block.settings.choose(key, word)
         }

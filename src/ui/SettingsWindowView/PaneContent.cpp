@@ -32,9 +32,9 @@ void addNotes(std::vector<std::string>& notes, const PaneBlock& block) {
 
 } // namespace
 
-void PaneRow::addButton(std::string label, ButtonStyle style) {
-    spokenButton = label + " " + title;
+void PaneRow::addButton(std::string label, std::string spoken, ButtonStyle style) {
     button = std::move(label);
+    spokenButton = std::move(spoken);
     buttonStyle = style;
 }
 

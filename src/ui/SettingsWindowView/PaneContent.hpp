@@ -57,6 +57,16 @@ struct CardState {
     friend bool operator==(const CardState&, const CardState&) = default;
 };
 
+/// A word that tells how something stands, with nothing to press.
+struct ToldState {
+    enum class Mood { good, doubtful, absent };
+
+    std::string word;
+    Mood mood = Mood::good;
+
+    friend bool operator==(const ToldState&, const ToldState&) = default;
+};
+
 /// One labelled control of a pane.
 struct PaneRow {
     enum class ButtonStyle { plain, secondary };
@@ -65,7 +75,7 @@ struct PaneRow {
     std::string key;
     std::string title;
     std::optional<std::string> caption = {};
-    std::variant<StepperState, PillsState, ToggleState, CardState> control = {};
+    std::variant<StepperState, PillsState, ToggleState, CardState, ToldState> control = {};
     bool isEnabled = true;
     /// Of the caption: the name of a colour.
     std::string captionTint = "faint";
@@ -75,8 +85,8 @@ struct PaneRow {
     std::string spokenButton = {};
     ButtonStyle buttonStyle = ButtonStyle::plain;
 
-    /// Puts a button in front of the control.
-    void addButton(std::string label, ButtonStyle style);
+    /// Puts a button in front of the control; `spoken` is what it is called by who cannot see the row.
+    void addButton(std::string label, std::string spoken, ButtonStyle style);
 
     friend bool operator==(const PaneRow&, const PaneRow&) = default;
 };

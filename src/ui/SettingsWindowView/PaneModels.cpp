@@ -10,6 +10,18 @@ QString textOf(const std::string& text) {
     return shownText(std::string_view(text));
 }
 
+QString moodName(ToldState::Mood mood) {
+    switch (mood) {
+    case ToldState::Mood::good:
+        return "good";
+    case ToldState::Mood::doubtful:
+        return "doubtful";
+    case ToldState::Mood::absent:
+        return "absent";
+    }
+    return {};
+}
+
 /// Adds what is special to a control.
 struct ControlValues {
     QVariantMap& values;
@@ -44,6 +56,11 @@ struct ControlValues {
         values["value"] = QString::fromStdString(card.word);
         values["isOn"] = card.isSelected;
         values["eyebrow"] = textOf(card.eyebrow);
+    }
+    void operator()(const ToldState& told) const {
+        values["control"] = "told";
+        values["value"] = textOf(told.word);
+        values["mood"] = moodName(told.mood);
     }
 };
 
@@ -116,10 +133,10 @@ QVariantMap valuesOf(const PaneBlock& block, KeyedListModel& rows) {
 } // namespace
 
 QStringList paneRowRoles() {
-    return {"key",          "title",         "caption",        "captionToken",  "button",
-            "spokenButton", "isButtonPlain", "offered",        "control",       "value",
-            "isInvalid",    "canDecrement",  "canIncrement",   "options",       "isOn",
-            "eyebrow",      "isAccented",    "decrementLabel", "incrementLabel"};
+    return {"key",          "title",         "caption",        "captionToken",   "button",
+            "spokenButton", "isButtonPlain", "offered",        "control",        "value",
+            "isInvalid",    "canDecrement",  "canIncrement",   "options",        "isOn",
+            "eyebrow",      "isAccented",    "decrementLabel", "incrementLabel", "mood"};
 }
 
 KeyedListModel::Row keyedRow(const PaneRow& row) {
@@ -140,6 +157,7 @@ KeyedListModel::Row keyedRow(const PaneRow& row) {
                        {"eyebrow", QString()},
                        {"options", QVariantList()},
                        {"isAccented", false},
+                       {"mood", QString()},
                        {"isOn", false}};
     std::visit(ControlValues{values}, row.control);
     return {keyOf(row), values};

@@ -24,6 +24,7 @@ SettingRow {
     required property var options
     required property bool isAccented
     required property bool isOn
+    required property string mood
 
     signal stepped(bool up)
     signal chosen(string word)
@@ -40,7 +41,18 @@ SettingRow {
 
     Repeater {
         model: 1
-        delegate: row.control === "stepper" ? stepper : row.control === "pills" ? pills : toggle
+        delegate: {
+            switch (row.control) {
+            case "stepper":
+                return stepper;
+            case "pills":
+                return pills;
+            case "told":
+                return told;
+            default:
+                return toggle;
+            }
+        }
     }
 
     Component {
@@ -95,6 +107,7 @@ SettingRow {
             selection: row.value
             accentSelection: row.isAccented
             spokenLabel: row.title
+            spokenDetail: row.caption
             onChosen: word => row.chosen(word)
         }
     }
@@ -107,7 +120,19 @@ SettingRow {
             isOn: row.isOn
             enabled: row.offered
             spokenLabel: row.title
+            spokenDetail: row.caption
             onToggled: row.turned(!row.isOn)
+        }
+    }
+
+    Component {
+        id: told
+
+        ToldWord {
+            anchors.verticalCenter: parent?.verticalCenter
+            word: row.value
+            mood: row.mood
+            spokenLabel: row.title + ": " + row.value
         }
     }
 }

@@ -1,6 +1,7 @@
 #include "ui/SettingsWindowView/PaneRows.hpp"
 
 #include "base/Fault.hpp"
+#include "base/Translated.hpp"
 #include "core/Formatters.hpp"
 #include "core/Settings.hpp"
 #include "ui/LaunchAtLogin.hpp"
@@ -32,8 +33,8 @@ PaneRow stepperRow(const Stepper& stepper, const Preferences& preferences, RowTe
     result.control = StepperState{.value = std::move(shown),
                                   .canDecrement = stepper.can(StepDirection::down, preferences),
                                   .canIncrement = stepper.can(StepDirection::up, preferences),
-                                  .decrementLabel = "Decrease " + result.title,
-                                  .incrementLabel = "Increase " + result.title};
+                                  .decrementLabel = translated("Decrease %1", {result.title}),
+                                  .incrementLabel = translated("Increase %1", {result.title})};
     return result;
 }
 
@@ -46,8 +47,9 @@ PaneRow durationRow(const Stepper& stepper, const Preferences& preferences, std:
 PaneRow cyclesRow(const Preferences& preferences, std::optional<std::string> caption) {
     const Stepper& stepper = Steppers::longBreakEvery;
     const std::int64_t cycles = Settings::integer(preferences, stepper.key(), Steppers::cyclesFallback);
-    return stepperRow(stepper, preferences, {stepper.key(), "Long break every", std::move(caption)},
-                      std::to_string(cycles) + " cycles");
+    return stepperRow(stepper, preferences,
+                      {stepper.key(), translated("Long break every"), std::move(caption)},
+                      translatedCount(cycles, "%1 cycles", "%1 cycles"));
 }
 
 PaneRow toggleRow(const Preferences& preferences, RowText text) {
@@ -58,7 +60,7 @@ PaneRow toggleRow(const Preferences& preferences, RowText text) {
 }
 
 PaneRow launchAtLoginRow(const LaunchAtLogin& launchAtLogin, std::string caption) {
-    PaneRow result = row({LaunchAtLogin::key, "Launch at login", std::move(caption)});
+    PaneRow result = row({LaunchAtLogin::key, translated("Launch at login"), std::move(caption)});
     result.control = ToggleState{launchAtLogin.isOn()};
     return result;
 }
@@ -68,7 +70,7 @@ PaneRow pillsRow(const Preferences& preferences, RowText text, PillsEmphasis emp
     PillsState pills{.selected = choice.selected(preferences),
                      .accentSelection = emphasis == PillsEmphasis::accent};
     for (const SettingChoice::Option& option : choice.options()) {
-        pills.options.push_back({option.word, option.label});
+        pills.options.push_back({option.word, option.label()});
     }
     PaneRow result = row(std::move(text));
     result.control = std::move(pills);
@@ -80,7 +82,7 @@ std::vector<PaneRow> cards(const Preferences& preferences, std::string_view key,
     const SettingChoice& choice = choiceOf(key);
     std::vector<PaneRow> rows;
     for (const SettingChoice::Option& option : choice.options()) {
-        PaneRow card = row({key, option.label, captions.at(rows.size())});
+        PaneRow card = row({key, option.label(), captions.at(rows.size())});
         card.control =
             CardState{.isSelected = choice.selected(preferences) == rows.size(), .word = option.word};
         rows.push_back(std::move(card));

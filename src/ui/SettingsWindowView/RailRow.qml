@@ -18,7 +18,7 @@ Rectangle {
     radius: 8
     color: isSelected ? Glass.sunk : "transparent"
 
-    activeFocusOnTab: isSelected
+    activeFocusOnTab: isSelected || activeFocus
     Keys.forwardTo: [area]
     Keys.onUpPressed: row.moved(-1)
     Keys.onDownPressed: row.moved(1)

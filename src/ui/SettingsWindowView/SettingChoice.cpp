@@ -1,5 +1,6 @@
 #include "ui/SettingsWindowView/SettingChoice.hpp"
 
+#include "base/Translated.hpp"
 #include "core/AppAppearance.hpp"
 #include "core/DoubleEscapeAction.hpp"
 #include "core/EnforcementLevel.hpp"
@@ -17,8 +18,13 @@ namespace kestrelfen {
 namespace {
 
 using Options = std::vector<SettingChoice::Option>;
+using Label = std::function<std::string()>;
 
 constexpr std::int64_t noLimit = -1;
+
+Label labelOf(std::string_view original) {
+    return [original] { return translated(original); };
+}
 
 SettingChoice boolean(std::string_view key, bool fallback) {
     return {key, {{"false", {}, false}, {"true", {}, true}}, [key, fallback](const Preferences& preferences) {
@@ -31,7 +37,7 @@ SettingChoice stored() {
     Options options;
     for (const auto& row : EnumerationTable<Case>::rows) {
         const std::string word(row.rawValue);
-        options.push_back({word, std::string(row.label), word});
+        options.push_back({word, labelOf(row.label), word});
     }
     return {StoredEnumeration<Case>::key, std::move(options), [](const Preferences& preferences) {
                 return std::optional(static_cast<std::size_t>(current<Case>(preferences)));
@@ -52,12 +58,18 @@ SettingChoice whole(std::string_view key, std::int64_t fallback, const Options& 
             }};
 }
 
+std::string quotaText(std::int64_t limit) {
+    if (limit == noLimit) {
+        return translated("No limit");
+    }
+    return limit == 0 ? translated("None") : std::to_string(limit);
+}
+
 SettingChoice quota(std::string_view key) {
     Options options;
     for (const std::int64_t limit :
          {std::int64_t{0}, std::int64_t{1}, std::int64_t{2}, std::int64_t{3}, std::int64_t{5}, noLimit}) {
-        const std::string number = std::to_string(limit);
-        options.push_back({number, limit == 0 ? "None" : limit == noLimit ? "No limit" : number, limit});
+        options.push_back({std::to_string(limit), [limit] { return quotaText(limit); }, limit});
     }
     return whole(key, noLimit, options);
 }
@@ -65,7 +77,7 @@ SettingChoice quota(std::string_view key) {
 SettingChoice retention() {
     Options options;
     for (const HistoryRetention each : historyRetentions) {
-        options.push_back({std::to_string(days(each)), std::string(label(each)), days(each)});
+        options.push_back({std::to_string(days(each)), labelOf(label(each)), days(each)});
     }
     return whole("historyRetentionDays", days(HistoryRetention::year), options);
 }
@@ -83,7 +95,8 @@ SettingChoice snoozeDuration() {
     constexpr const char* key = "snoozeDurationSeconds";
     Options options;
     for (const SnoozeOption option : snoozeOptions) {
-        options.push_back({std::to_string(60 * minutes(option)), pickerLabel(option), seconds(option)});
+        options.push_back({std::to_string(60 * minutes(option)), [option] { return pickerLabel(option); },
+                           seconds(option)});
     }
     return {key, std::move(options), [](const Preferences& preferences) {
                 return std::optional(
@@ -129,8 +142,21 @@ bool isNumber(std::string_view word, const PreferenceValue& value) {
 
 } // namespace
 
-const SettingChoice* SettingChoice::find(std::string_view key) {
+const std::vector<SettingChoice>& SettingChoice::all() {
     static const std::vector<SettingChoice> choices = makeChoices();
+    return choices;
+}
+
+std::vector<std::string_view> SettingChoice::keys() {
+    std::vector<std::string_view> keys;
+    for (const SettingChoice& choice : all()) {
+        keys.push_back(choice.key_);
+    }
+    return keys;
+}
+
+const SettingChoice* SettingChoice::find(std::string_view key) {
+    const std::vector<SettingChoice>& choices = all();
     const auto found = std::find_if(choices.begin(), choices.end(),
                                     [key](const SettingChoice& choice) { return choice.key_ == key; });
     return found == choices.end() ? nullptr : &*found;

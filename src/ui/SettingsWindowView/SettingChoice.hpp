@@ -17,7 +17,8 @@ class SettingChoice {
     struct Option {
         /// The value in words.
         std::string word;
-        std::string label;
+        /// Its text in the person's language, asked for whenever it is shown; none behind a switch.
+        std::function<std::string()> label;
         PreferenceValue value;
     };
 
@@ -28,6 +29,9 @@ class SettingChoice {
 
     /// The one bound to `key`, or null. Lives as long as the program.
     static const SettingChoice* find(std::string_view key);
+
+    /// Of all that there are.
+    static std::vector<std::string_view> keys();
 
     const std::vector<Option>& options() const { return options_; }
 
@@ -42,6 +46,8 @@ class SettingChoice {
     void choose(const Option& option, Preferences& preferences) const { preferences.set(key_, option.value); }
 
   private:
+    static const std::vector<SettingChoice>& all();
+
     std::string_view key_;
     std::vector<Option> options_;
     Selected selected_;

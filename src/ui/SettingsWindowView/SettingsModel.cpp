@@ -1,5 +1,6 @@
 #include "ui/SettingsWindowView/SettingsModel.hpp"
 
+#include "base/Translated.hpp"
 #include "core/BreakEngine.hpp"
 #include "platform/ports/Preferences.hpp"
 #include "sensing/SmartPauseLists.hpp"
@@ -14,6 +15,7 @@
 #include "ui/SettingsWindowView/SmartPausePane.hpp"
 #include "ui/SettingsWindowView/TimingPane.hpp"
 #include "ui/SettingsWindowView/WebsiteStatsPane.hpp"
+#include "ui/SettingsWindowView/WhatWorksContent.hpp"
 #include "ui/ShownText.hpp"
 
 namespace kestrelfen {
@@ -53,13 +55,13 @@ SettingsModel::SettingsModel(SettingsSources sources, const Platform& platform)
 }
 
 QString SettingsModel::heading() const {
-    return shownText(SettingsRail::heading);
+    return shownText(std::string_view(translated(SettingsRail::heading)));
 }
 
 QVariantList SettingsModel::panes() const {
     QVariantList labels;
     for (const SettingsPane pane : allCases<SettingsPane>()) {
-        labels.append(shownText(SettingsRail::label(pane)));
+        labels.append(shownText(std::string_view(SettingsRail::label(pane))));
     }
     return labels;
 }
@@ -78,10 +80,10 @@ QString SettingsModel::sentence() const {
 }
 
 QVariantMap SettingsModel::deletionQuestion() const {
-    return {{"title", shownText(DeletionQuestion::title)},
-            {"message", shownText(DeletionQuestion::message)},
-            {"confirm", shownText(DeletionQuestion::confirm)},
-            {"cancel", shownText(DeletionQuestion::cancel)}};
+    return {{"title", shownText(std::string_view(translated(DeletionQuestion::title)))},
+            {"message", shownText(std::string_view(translated(DeletionQuestion::message)))},
+            {"confirm", shownText(std::string_view(translated(DeletionQuestion::confirm)))},
+            {"cancel", shownText(std::string_view(translated(DeletionQuestion::cancel)))}};
 }
 
 void SettingsModel::selectPane(int index) {
@@ -168,9 +170,18 @@ PaneContent SettingsModel::content() const {
     case SettingsPane::appearance:
         return AppearancePane::content(platform_.preferences);
     case SettingsPane::about:
-        return AboutPane::content();
+        return aboutPane();
     }
     return {};
+}
+
+/// Asked anew at each tick of the engine, so that what comes or goes meanwhile is told.
+PaneContent SettingsModel::aboutPane() const {
+    PaneContent pane = AboutPane::content();
+    if (sources_.overlays) {
+        WhatWorksContent::of(DesktopAnswers::of(platform_, *sources_.overlays)).addTo(pane);
+    }
+    return pane;
 }
 
 void SettingsModel::refresh() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Navigation.hpp"
+#include "platform/ports/OverlayReach.hpp"
 #include "platform/ports/Platform.hpp"
 #include "ui/AppListEditor/AppListModel.hpp"
 #include "ui/ChangeFollower.hpp"
@@ -18,6 +19,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace kestrelfen {
 
@@ -45,6 +47,8 @@ struct SettingsSources {
     std::function<void()> openAutomationSettings;
     std::string appVersion;
     std::string buildNumber;
+    /// Absent where there is no desktop to tell of.
+    std::optional<OverlayReach> overlays = {};
 };
 
 /// Publishes the settings window and forwards its clicks. Main thread only.
@@ -97,6 +101,7 @@ class SettingsModel : public QObject {
 
   private:
     PaneContent content() const;
+    PaneContent aboutPane() const;
     void enter(SettingsPane pane);
     void refresh();
     void edit(std::optional<SmartPauseKind> kind);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Navigation.hpp"
+#include "base/Translated.hpp"
 
 #include <string>
 #include <string_view>
@@ -9,7 +10,7 @@ namespace kestrelfen {
 
 /// The column of panes at the side of the settings window.
 struct SettingsRail {
-    static constexpr std::string_view heading = "Settings";
+    static constexpr std::string_view heading = toTranslate("Settings");
 
     /// The footer's lines.
     static std::string version(const std::string& version, const std::string& build) {
@@ -17,24 +18,24 @@ struct SettingsRail {
     }
     static constexpr std::string_view identifier = "app.kestrelfen.mac";
 
-    static constexpr std::string_view label(SettingsPane pane) {
+    static std::string label(SettingsPane pane) {
         switch (pane) {
         case SettingsPane::timing:
-            return "Timing";
+            return translated("Timing");
         case SettingsPane::enforcement:
-            return "Enforcement";
+            return translated("Enforcement");
         case SettingsPane::smartPause:
-            return "Smart Pause";
+            return translated("Smart Pause");
         case SettingsPane::pausing:
-            return "Pausing";
+            return translated("Pausing");
         case SettingsPane::websiteStats:
-            return "Website Stats";
+            return translated("Website Stats");
         case SettingsPane::notifications:
-            return "Notifications";
+            return translated("Notifications");
         case SettingsPane::appearance:
-            return "Appearance";
+            return translated("Appearance");
         case SettingsPane::about:
-            return "About";
+            return translated("About");
         }
         return {};
     }

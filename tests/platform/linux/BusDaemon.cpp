@@ -4,6 +4,7 @@
 
 #include <QDBusConnectionInterface>
 #include <QDBusPendingCall>
+#include <QDir>
 #include <QFile>
 #include <gtest/gtest.h>
 
@@ -18,7 +19,8 @@ constexpr char configuration[] =
  "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">
 <busconfig>
   <type>session</type>
-  <listen>unix:path=%1</listen>
+  <listen>unix:path=%1/bus</listen>
+  <servicedir>%1/services</servicedir>
   <auth>EXTERNAL</auth>
   <policy context="default">
     <allow send_destination="*" eavesdrop="true"/>
@@ -77,8 +79,15 @@ void BusDaemon::resume() const {
 QString BusDaemon::writeConfiguration() const {
     QFile file(folder_.filePath("bus.conf"));
     EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(QString(configuration).arg(socket()).toUtf8());
+    file.write(QString(configuration).arg(folder_.path()).toUtf8());
     return file.fileName();
+}
+
+void BusDaemon::offerToStart(const QString& name) const {
+    QDir(folder_.path()).mkdir("services");
+    QFile file(folder_.filePath("services/" + name + ".service"));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(QString("[D-BUS Service]\nName=%1\nExec=/bin/false\n").arg(name).toUtf8());
 }
 
 bool BusDaemon::hasOwner(const QString& name) const {

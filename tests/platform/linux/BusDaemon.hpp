@@ -36,6 +36,9 @@ class BusDaemon {
     /// The test's own connection.
     QDBusConnection connection() const { return QDBusConnection(connectionName_); }
 
+    /// From its next start on it would start a service of that name when somebody asks for it.
+    void offerToStart(const QString& name) const;
+
     bool hasOwner(const QString& name) const;
 
     /// Runs the event loop until the answer has come.

@@ -13,7 +13,8 @@ namespace {
 class DBusNotifierTest : public testing::Test {
   protected:
     BusConnection bus_;
-    DBusNotifier notifier_{bus_.get()};
+    BusLink link_{BusLink::Bus::session};
+    DBusNotifier notifier_{bus_.get(), link_};
 };
 
 TEST_F(DBusNotifierTest, HandsTheNotificationOver) {
@@ -23,7 +24,7 @@ TEST_F(DBusNotifierTest, HandsTheNotificationOver) {
     notifier_.post({"Time for a <break>", "20 feet & more", false});
     const QJsonObject quiet = daemon.readObject();
     EXPECT_EQ(quiet["application"].toString(), "Kestrelfen");
-    EXPECT_EQ(quiet["icon"].toString(), "kestrelfen");
+    EXPECT_EQ(quiet["icon"].toString(), "app.kestrelfen.Kestrelfen");
     EXPECT_EQ(quiet["replaces"].toInt(-1), 0);
     EXPECT_EQ(quiet["title"].toString(), "Time for a <break>");
     EXPECT_EQ(quiet["body"].toString(), "20 feet &amp; more");
@@ -45,6 +46,15 @@ TEST_F(DBusNotifierTest, ARealDaemonShowsIt) {
     EXPECT_TRUE(waitUntil([] { return outputOf("dunstctl", {"count", "displayed"}) == "1"; }));
 }
 
+TEST_F(DBusNotifierTest, ADaemonThatComesAndGoesIsTold) {
+    EXPECT_FALSE(notifier_.isAvailable());
+    {
+        const ChildProcess daemon("/usr/bin/python3", {SCRIPT_DIR "/notification_recorder.py"});
+        EXPECT_TRUE(waitUntil([this] { return notifier_.isAvailable(); }));
+    }
+    EXPECT_TRUE(waitUntil([this] { return !notifier_.isAvailable(); }));
+}
+
 TEST_F(DBusNotifierTest, WithoutADaemonItReturnsAtOnce) {
     QElapsedTimer time;
     time.start();
@@ -53,8 +63,10 @@ TEST_F(DBusNotifierTest, WithoutADaemonItReturnsAtOnce) {
 }
 
 TEST_F(DBusNotifierTest, WithoutABusItReturnsAtOnce) {
-    DBusNotifier notifier(QDBusConnection("nowhere"));
+    BusLink link("unix:path=/nonexistent");
+    DBusNotifier notifier(QDBusConnection("nowhere"), link);
     notifier.post({"Time for a break", "", false});
+    EXPECT_FALSE(notifier.isAvailable());
 }
 
 } // namespace

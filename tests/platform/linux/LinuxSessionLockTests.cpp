@@ -29,7 +29,12 @@ class LinuxSessionLockTest : public SystemSignalsTest {
         lock_.emplace(*systemBus_, *sessionBus_, *signals_, log_);
     }
 
-    SessionLockResult lock() { return lock_->lock(); }
+    SessionLockResult lock() {
+        const bool isAvailable = lock_->isAvailable();
+        const SessionLockResult result = lock_->lock();
+        EXPECT_EQ(isAvailable, result.outcome == Outcome::started);
+        return result;
+    }
 
     void expectLogged(LogLevel level, const std::string& text) const {
         ASSERT_EQ(log_.lines().size(), 1U);
@@ -162,6 +167,17 @@ TEST_F(LinuxSessionLockTest, WithoutAnyBusItIsMissing) {
     sessionDaemon_.stop();
     makeLock(displaysAlone);
     EXPECT_EQ(lock().outcome, Outcome::missing);
+}
+
+TEST_F(LinuxSessionLockTest, AWayThatComesAndGoesIsTold) {
+    makeLock(displaysAlone);
+    EXPECT_FALSE(lock_->isAvailable());
+    {
+        const ScreenSaverMock saver(sessionDaemon_);
+        EXPECT_TRUE(waitUntil([this] { return lock_->isAvailable(); }));
+    }
+    EXPECT_TRUE(waitUntil([this] { return !lock_->isAvailable(); }));
+    EXPECT_TRUE(log_.lines().empty());
 }
 
 TEST_F(LinuxSessionLockTest, ALostBusIsAFailureWithItsReason) {

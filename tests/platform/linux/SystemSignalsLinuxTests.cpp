@@ -10,7 +10,7 @@ class LinuxSubject {
     LinuxSubject() {
         EXPECT_TRUE(waitUntil([this] {
             const auto known = systemSignals_.capabilities();
-            return known.session && known.displaySleep;
+            return known.sleep && known.session && known.displaySleep;
         }));
         pass(quiet);
     }

@@ -17,6 +17,16 @@ TEST_F(BrowserAccessTest, TellsTheOriginOfTheActiveTab) {
     EXPECT_EQ(read(), "https://Example.com:8443");
 }
 
+TEST_F(BrowserAccessTest, IsAvailableWhileTheServiceIsThereOnOrOff) {
+    EXPECT_TRUE(waitUntil([this] { return access_->isAvailable(); }));
+    service_.set("IsEnabled", false);
+    EXPECT_TRUE(access_->isAvailable());
+    service_.stop();
+    EXPECT_TRUE(waitUntil([this] { return !access_->isAvailable(); }));
+    service_.start();
+    EXPECT_TRUE(waitUntil([this] { return access_->isAvailable(); }));
+}
+
 TEST_F(BrowserAccessTest, EachAnswerIsReadAnew) {
     AccessibleProgram browser({window("https://first.example/")});
     runs(browser.process());

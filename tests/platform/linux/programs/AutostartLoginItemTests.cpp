@@ -64,6 +64,23 @@ TEST(AutostartLoginItem, TheEntryStartsThisProgram) {
     EXPECT_EQ(session.value("Name"), "Kestrelfen");
 }
 
+TEST(AutostartLoginItem, TheDesktopPassesOverTheEntryOnceTheProgramHasGone) {
+    Session session;
+    session.set(true);
+    EXPECT_EQ(unescapedValue(session.value("TryExec")), session.program().string());
+    fs::remove(session.program());
+    EXPECT_FALSE(session.loginItem().isEnabled());
+}
+
+TEST(AutostartLoginItem, AnEntryOnAConditionThatFailsIsMadeAnew) {
+    Session session;
+    session.writeEntry("[Desktop Entry]\nTryExec=/nowhere/kestrelfen\nExec=" + session.program().string() +
+                       "\n");
+    EXPECT_FALSE(session.loginItem().isEnabled());
+    EXPECT_EQ(session.set(true), "none");
+    EXPECT_TRUE(session.loginItem().isEnabled());
+}
+
 TEST(AutostartLoginItem, NothingStaysBehindWhenItIsDisabled) {
     Session session;
     session.set(true);
@@ -82,6 +99,7 @@ TEST(AutostartLoginItem, APathWithSignsOfItsOwnIsQuoted) {
     const auto values =
         keyFileGroup(contentOf(folder / "autostart" / AutostartLoginItem::entryName), "Desktop Entry");
     EXPECT_EQ(execWords(unescapedValue(values.at("Exec"))), std::vector<std::string>{program.string()});
+    EXPECT_EQ(unescapedValue(values.at("TryExec")), program.string());
     EXPECT_TRUE(item.isEnabled());
 }
 

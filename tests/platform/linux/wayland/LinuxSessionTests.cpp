@@ -33,7 +33,10 @@ TEST_F(LinuxSessionTest, WithoutACompositorTheXServerTells) {
     EXPECT_TRUE(isA<X11InputIdle>(session->makeInputIdle()));
     const auto windows = session->makeWindows();
     EXPECT_TRUE(isA<X11Applications>(windows.applications));
+    EXPECT_FALSE(windows.applications->missesSome());
     EXPECT_NE(windows.list, nullptr);
+    EXPECT_EQ(session->overlayReach(true), OverlayReach::everywhere);
+    EXPECT_EQ(session->overlayReach(false), OverlayReach::everywhere);
 }
 
 TEST_F(LinuxSessionTest, InAnX11SessionTheXServerTells) {
@@ -68,16 +71,21 @@ TEST_F(LinuxSessionTest, WithoutTheProtocolsGnomesServiceAndXWaylandTell) {
     const FakeCompositor::Answering answering(compositor);
     const auto session = make();
     EXPECT_TRUE(isA<MutterInputIdle>(session->makeInputIdle()));
-    EXPECT_TRUE(isA<X11Applications>(session->makeWindows().applications));
+    const auto windows = session->makeWindows();
+    EXPECT_TRUE(isA<X11Applications>(windows.applications));
+    EXPECT_TRUE(windows.applications->missesSome());
+    EXPECT_EQ(session->overlayReach(true), OverlayReach::throughXServer);
 }
 
 TEST_F(LinuxSessionTest, NobodyTellsOfWindowsWithoutProtocolAndXServer) {
     FakeCompositor compositor(FakeCompositor::Idle::untold);
     const FakeCompositor::Answering answering(compositor);
     const EnvironmentValue display("DISPLAY", std::nullopt);
-    const auto windows = make()->makeWindows();
+    const auto session = make();
+    const auto windows = session->makeWindows();
     EXPECT_EQ(windows.applications, nullptr);
     EXPECT_EQ(windows.list, nullptr);
+    EXPECT_EQ(session->overlayReach(true), OverlayReach::ordinaryWindows);
 }
 
 TEST_F(LinuxSessionTest, ACompositorThatTellsOfWindowsIsAsked) {
@@ -90,6 +98,9 @@ TEST_F(LinuxSessionTest, ACompositorThatTellsOfWindowsIsAsked) {
     const auto windows = session->makeWindows();
     EXPECT_TRUE(isA<WaylandApplications>(windows.applications));
     EXPECT_TRUE(windows.applications->isAvailable());
+    EXPECT_FALSE(windows.applications->missesSome());
+    EXPECT_EQ(session->overlayReach(true), OverlayReach::everywhere);
+    EXPECT_EQ(session->overlayReach(false), OverlayReach::throughXServer);
     EXPECT_TRUE(isA<WaylandWindowList>(windows.list));
 }
 

@@ -19,6 +19,11 @@ TEST_F(X11ApplicationsTest, FrontmostIsTheProgramWithTheActiveWindow) {
     EXPECT_EQ(application->localizedName, "Writer of one");
 }
 
+TEST_F(X11ApplicationsTest, BesideAWaylandDesktopItMissesItsPrograms) {
+    EXPECT_FALSE(applications->missesSome());
+    EXPECT_TRUE(X11Applications(*watch, X11Applications::Desktop::wayland).missesSome());
+}
+
 TEST_F(X11ApplicationsTest, RunningProgramsStandInTheOrderOfTheirComing) {
     start("Writer");
     start("Reader");
