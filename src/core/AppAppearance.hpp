@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Translated.hpp"
 #include "core/StoredEnumeration.hpp"
 
 namespace kestrelfen {
@@ -10,9 +11,9 @@ enum class AppAppearance { system, light, dark };
 template <>
 struct EnumerationTable<AppAppearance> {
     static constexpr std::array<EnumerationRow<AppAppearance>, 3> rows{{
-        {AppAppearance::system, "system", "System"},
-        {AppAppearance::light, "light", "Light"},
-        {AppAppearance::dark, "dark", "Dark"},
+        {AppAppearance::system, "system", toTranslate("System")},
+        {AppAppearance::light, "light", toTranslate("Light")},
+        {AppAppearance::dark, "dark", toTranslate("Dark")},
     }};
 };
 

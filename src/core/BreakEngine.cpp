@@ -1,6 +1,7 @@
 #include "core/BreakEngine.hpp"
 
 #include "base/Fault.hpp"
+#include "base/Translated.hpp"
 #include "core/Formatters.hpp"
 #include "core/Settings.hpp"
 #include "platform/ports/Clock.hpp"
@@ -111,7 +112,7 @@ void BreakEngine::startWorkInterval(Date date) {
     warningDismissed_ = false;
     suspendedPhase_.set(std::nullopt);
     state_.set(BreakState::working(due));
-    logTransition("work " + Formatters::duration(config().workInterval) + " → break at " +
+    logTransition("work " + Formatters::loggedDuration(config().workInterval) + " → break at " +
                   platform_.timeFormat.shortTime(due) +
                   " (next break long: " + (isNextBreakLong() ? "true" : "false") + ")");
 }
@@ -129,7 +130,7 @@ void BreakEngine::beginBreak(Date date) {
     currentBreakDisplayCount_ = platform_.displays.count();
     snoozesOnCurrentBreak_.set(0);
     state_.set(BreakState::onBreak(end));
-    logTransition((isLong ? "long break " : "break ") + Formatters::duration(duration) + " → ends " +
+    logTransition((isLong ? "long break " : "break ") + Formatters::loggedDuration(duration) + " → ends " +
                   platform_.timeFormat.shortTime(end));
     postBreakNotification(isLong, duration);
     if (Settings::boolean(platform_.preferences, "lockOnBreakStart", false)) {
@@ -156,10 +157,11 @@ void BreakEngine::postBreakNotification(bool isLong, double duration) const {
     if (platform_.programFocus.isActive()) {
         return;
     }
-    const std::string title = isLong ? "Time for a long break" : "Look away — 20 seconds";
-    const std::string body =
-        (isLong ? "Stand up and step away for " : "Focus on something about 20 feet away for ") +
-        Formatters::duration(duration) + ".";
+    const std::string title =
+        isLong ? translated("Time for a long break") : translated("Look away — 20 seconds");
+    const std::string length = Formatters::duration(duration);
+    const std::string body = isLong ? translated("Stand up and step away for %1.", {length})
+                                    : translated("Focus on something about 20 feet away for %1.", {length});
     platform_.mainQueue.post([platform = platform_, title, body] {
         const bool sound = Settings::boolean(platform.preferences, "soundOnBreakStart", false);
         platform.notifier.post({title, body, sound});

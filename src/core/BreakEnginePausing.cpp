@@ -56,7 +56,7 @@ void BreakEngine::pauseFor(double seconds, Date date) {
     }
     pause(PauseReason::manual);
     pausedUntil_.set(date + seconds);
-    logTransition("paused for " + Formatters::duration(seconds));
+    logTransition("paused for " + Formatters::loggedDuration(seconds));
 }
 
 void BreakEngine::resume(Date date) {

@@ -23,7 +23,7 @@ bool BreakEngine::snooze(double seconds, Date date) {
     suspendedPhase_.set(std::nullopt);
     currentBreakStartedAt_.reset();
     state_.set(BreakState::working(due));
-    logTransition("snoozed " + Formatters::duration(seconds) + " (today: " + std::to_string(today) +
+    logTransition("snoozed " + Formatters::loggedDuration(seconds) + " (today: " + std::to_string(today) +
                   ", this break: " + std::to_string(snoozesOnCurrentBreak()) + ")");
     return true;
 }
@@ -38,7 +38,8 @@ bool BreakEngine::postponeNextBreak(double seconds, Date date) {
     currentPhaseTotal_.set(seconds);
     warningDismissed_ = false;
     state_.set(BreakState::working(due));
-    logTransition("postponed " + Formatters::duration(seconds) + " (today: " + std::to_string(today) + ")");
+    logTransition("postponed " + Formatters::loggedDuration(seconds) + " (today: " + std::to_string(today) +
+                  ")");
     return true;
 }
 

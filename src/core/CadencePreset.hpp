@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Enumeration.hpp"
+#include "base/Translated.hpp"
 
 #include <string>
 
@@ -14,9 +15,9 @@ enum class CadencePreset { gentle, standard, strict };
 template <>
 struct EnumerationTable<CadencePreset> {
     static constexpr std::array<EnumerationRow<CadencePreset>, 3> rows{{
-        {CadencePreset::gentle, "gentle", "Gentle", "min work / sec break"},
-        {CadencePreset::standard, "standard", "Standard", "the 20-20-20 rule"},
-        {CadencePreset::strict, "strict", "Strict", "min work / sec break"},
+        {CadencePreset::gentle, "gentle", toTranslate("Gentle"), toTranslate("min work / sec break")},
+        {CadencePreset::standard, "standard", toTranslate("Standard"), toTranslate("the 20-20-20 rule")},
+        {CadencePreset::strict, "strict", toTranslate("Strict"), toTranslate("min work / sec break")},
     }};
 };
 

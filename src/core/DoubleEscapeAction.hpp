@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Translated.hpp"
 #include "core/StoredEnumeration.hpp"
 
 namespace kestrelfen {
@@ -10,9 +11,9 @@ enum class DoubleEscapeAction { nothing, snooze, skip };
 template <>
 struct EnumerationTable<DoubleEscapeAction> {
     static constexpr std::array<EnumerationRow<DoubleEscapeAction>, 3> rows{{
-        {DoubleEscapeAction::nothing, "nothing", "Nothing"},
-        {DoubleEscapeAction::snooze, "snooze", "Snooze the break"},
-        {DoubleEscapeAction::skip, "skip", "Skip the break"},
+        {DoubleEscapeAction::nothing, "nothing", toTranslate("Nothing")},
+        {DoubleEscapeAction::snooze, "snooze", toTranslate("Snooze the break")},
+        {DoubleEscapeAction::skip, "skip", toTranslate("Skip the break")},
     }};
 };
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Translated.hpp"
 #include "core/StoredEnumeration.hpp"
 
 namespace kestrelfen {
@@ -10,9 +11,9 @@ enum class EnforcementLevel { casual, balanced, hardcore };
 template <>
 struct EnumerationTable<EnforcementLevel> {
     static constexpr std::array<EnumerationRow<EnforcementLevel>, 3> rows{{
-        {EnforcementLevel::casual, "casual", "Casual", "Skip anytime"},
-        {EnforcementLevel::balanced, "balanced", "Balanced", "Skip after a pause"},
-        {EnforcementLevel::hardcore, "hardcore", "Hardcore", "No skips allowed"},
+        {EnforcementLevel::casual, "casual", toTranslate("Casual"), toTranslate("Skip anytime")},
+        {EnforcementLevel::balanced, "balanced", toTranslate("Balanced"), toTranslate("Skip after a pause")},
+        {EnforcementLevel::hardcore, "hardcore", toTranslate("Hardcore"), toTranslate("No skips allowed")},
     }};
 };
 

@@ -1,5 +1,6 @@
 #include "core/Formatters.hpp"
 
+#include "base/Translated.hpp"
 #include "core/WholeSeconds.hpp"
 #include "platform/ports/Calendar.hpp"
 
@@ -14,18 +15,40 @@ std::int64_t upwardFromZero(double seconds) {
     return std::max<std::int64_t>(WholeSeconds::roundedUp(seconds), 0);
 }
 
+std::string twoDigits(std::int64_t number) {
+    return (number < 10 ? "0" : "") + std::to_string(number);
+}
+
 std::string paired(const char* format, std::int64_t first, std::int64_t second) {
     char text[48];
     std::snprintf(text, sizeof text, format, static_cast<long long>(first), static_cast<long long>(second));
     return text;
 }
 
-std::string minutesAndSeconds(std::int64_t total, const char* secondsUnit) {
+/// How a length is written that has only seconds, only minutes, or both.
+struct LengthPatterns {
+    std::string_view seconds;
+    std::string_view minutes;
+    std::string_view both;
+};
+
+constexpr LengthPatterns shortLength{toTranslate("%1 s"), toTranslate("%1 min"), toTranslate("%1 min %2 s")};
+constexpr LengthPatterns spelledLength{toTranslate("%1 sec"), toTranslate("%1 min"),
+                                       toTranslate("%1 min %2 sec")};
+
+using Words = std::string (*)(std::string_view);
+
+std::string originalWords(std::string_view text) {
+    return std::string(text);
+}
+
+std::string lengthText(std::int64_t total, const LengthPatterns& patterns, Words words) {
     if (total < 60) {
-        return std::to_string(total) + secondsUnit;
+        return filled(words(patterns.seconds), {std::to_string(total)});
     }
-    const std::string minutes = std::to_string(total / 60) + " min";
-    return total % 60 == 0 ? minutes : minutes + " " + std::to_string(total % 60) + secondsUnit;
+    const std::string minutes = std::to_string(total / 60);
+    return total % 60 == 0 ? filled(words(patterns.minutes), {minutes})
+                           : filled(words(patterns.both), {minutes, std::to_string(total % 60)});
 }
 
 } // namespace
@@ -33,13 +56,18 @@ std::string minutesAndSeconds(std::int64_t total, const char* secondsUnit) {
 std::string Formatters::activeTime(double seconds) {
     const std::int64_t total = std::max<std::int64_t>(WholeSeconds::nearest(seconds), 0);
     if (total >= 3600) {
-        return paired("%lld h %02lld m", total / 3600, total % 3600 / 60);
+        return translated("%1 h %2 m", {std::to_string(total / 3600), twoDigits(total % 3600 / 60)});
     }
-    return total >= 60 ? std::to_string(total / 60) + " m" : std::to_string(total) + " s";
+    return total >= 60 ? translated("%1 m", {std::to_string(total / 60)})
+                       : translated("%1 s", {std::to_string(total)});
 }
 
 std::string Formatters::duration(double seconds) {
-    return minutesAndSeconds(WholeSeconds::nearest(seconds), " s");
+    return lengthText(WholeSeconds::nearest(seconds), shortLength, translated);
+}
+
+std::string Formatters::loggedDuration(double seconds) {
+    return lengthText(WholeSeconds::nearest(seconds), shortLength, originalWords);
 }
 
 std::string Formatters::countdown(double seconds) {
@@ -53,7 +81,7 @@ std::string Formatters::clockCountdown(double seconds) {
 }
 
 std::string Formatters::spelled(double seconds) {
-    return minutesAndSeconds(upwardFromZero(seconds), " sec");
+    return lengthText(upwardFromZero(seconds), spelledLength, translated);
 }
 
 std::string Formatters::wholeSeconds(double seconds) {

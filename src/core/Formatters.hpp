@@ -17,6 +17,9 @@ struct Formatters {
     /// Configured lengths: "20 min", "1 min 30 s", "20 s".
     static std::string duration(double seconds);
 
+    /// The same in the log, which no catalogue changes.
+    static std::string loggedDuration(double seconds);
+
     /// "19:59", minutes without bound.
     static std::string countdown(double seconds);
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Translated.hpp"
+
 #include <array>
 #include <cstdint>
 #include <optional>
@@ -35,13 +37,13 @@ HistoryRetention chosenRetention(const Preferences& preferences);
 constexpr std::string_view label(HistoryRetention retention) {
     switch (retention) {
     case HistoryRetention::days30:
-        return "30 days";
+        return toTranslate("30 days");
     case HistoryRetention::days90:
-        return "90 days";
+        return toTranslate("90 days");
     case HistoryRetention::year:
-        return "1 year";
+        return toTranslate("1 year");
     case HistoryRetention::forever:
-        return "Forever";
+        return toTranslate("Forever");
     }
     return {};
 }

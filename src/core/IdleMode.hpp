@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Translated.hpp"
 #include "core/StoredEnumeration.hpp"
 
 namespace kestrelfen {
@@ -10,9 +11,11 @@ enum class IdleMode { off, automatic, custom };
 template <>
 struct EnumerationTable<IdleMode> {
     static constexpr std::array<EnumerationRow<IdleMode>, 3> rows{{
-        {IdleMode::off, "off", "Off", "Never pauses"},
-        {IdleMode::automatic, "automatic", "Automatic", "Scaled from your work interval"},
-        {IdleMode::custom, "custom", "Custom", "You choose how long counts as away"},
+        {IdleMode::off, "off", toTranslate("Off"), toTranslate("Never pauses")},
+        {IdleMode::automatic, "automatic", toTranslate("Automatic"),
+         toTranslate("Scaled from your work interval")},
+        {IdleMode::custom, "custom", toTranslate("Custom"),
+         toTranslate("You choose how long counts as away")},
     }};
 };
 

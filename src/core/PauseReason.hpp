@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/PauseKind.hpp"
+#include "base/Translated.hpp"
 
 namespace kestrelfen {
 
@@ -22,15 +23,15 @@ enum class PauseReason {
 template <>
 struct EnumerationTable<PauseReason> {
     static constexpr std::array<EnumerationRow<PauseReason>, 9> rows{{
-        {PauseReason::manual, "manual"},
-        {PauseReason::systemSleep, "systemSleep"},
-        {PauseReason::screenLocked, "screenLocked"},
-        {PauseReason::displaySleep, "displaySleep"},
-        {PauseReason::userIdle, "userIdle"},
-        {PauseReason::meeting, "meeting"},
-        {PauseReason::videoPlayback, "videoPlayback"},
-        {PauseReason::screenSharing, "screenSharing"},
-        {PauseReason::focusApp, "focusApp"},
+        {PauseReason::manual, toTranslate("manual")},
+        {PauseReason::systemSleep, toTranslate("systemSleep")},
+        {PauseReason::screenLocked, toTranslate("screenLocked")},
+        {PauseReason::displaySleep, toTranslate("displaySleep")},
+        {PauseReason::userIdle, toTranslate("userIdle")},
+        {PauseReason::meeting, toTranslate("meeting")},
+        {PauseReason::videoPlayback, toTranslate("videoPlayback")},
+        {PauseReason::screenSharing, toTranslate("screenSharing")},
+        {PauseReason::focusApp, toTranslate("focusApp")},
     }};
 };
 

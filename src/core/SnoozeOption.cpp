@@ -1,5 +1,6 @@
 #include "core/SnoozeOption.hpp"
 
+#include "base/Translated.hpp"
 #include "core/Settings.hpp"
 
 namespace kestrelfen {
@@ -9,12 +10,11 @@ double chosenSnoozeSeconds(const Preferences& preferences) {
 }
 
 std::string spokenLabel(SnoozeOption option) {
-    const char* const ending = option == SnoozeOption::one ? " minute" : " minutes";
-    return "Snooze " + std::to_string(minutes(option)) + ending;
+    return translatedCount(minutes(option), "Snooze %1 minute", "Snooze %1 minutes");
 }
 
 std::string pickerLabel(SnoozeOption option) {
-    return std::to_string(minutes(option)) + " min";
+    return translated("%1 min", {std::to_string(minutes(option))});
 }
 
 } // namespace kestrelfen

@@ -1,5 +1,6 @@
 #include "screentime/EyeScore.hpp"
 
+#include "base/Translated.hpp"
 #include "platform/ports/Calendar.hpp"
 #include "screentime/DaysByStart.hpp"
 #include "screentime/Share.hpp"
@@ -119,13 +120,13 @@ double EyeScore::stretchShare() const {
 std::string_view label(EyeScore::Band band) {
     switch (band) {
     case EyeScore::Band::noData:
-        return "No data yet";
+        return toTranslate("No data yet");
     case EyeScore::Band::needsWork:
-        return "Needs work";
+        return toTranslate("Needs work");
     case EyeScore::Band::fair:
-        return "Fair";
+        return toTranslate("Fair");
     case EyeScore::Band::good:
-        return "Good";
+        return toTranslate("Good");
     }
     return {};
 }

@@ -1,5 +1,6 @@
 #include "screentime/WeekWords.hpp"
 
+#include "base/Translated.hpp"
 #include "core/Formatters.hpp"
 #include "screentime/Hour.hpp"
 
@@ -16,7 +17,7 @@ constexpr double slippingKeptRatio = 0.65;
 constexpr double minute = 60.0;
 
 std::string percent(double share) {
-    return std::to_string(std::llround(share * 100)) + "%";
+    return translated("%1%", {std::to_string(std::llround(share * 100))});
 }
 
 /// As "%.*f" does, whatever the locale.
@@ -33,13 +34,14 @@ std::string rounded(double number) {
 
 ScoreMeter stretchMeter(const EyeScore& score) {
     const bool isLong = score.longestStretch > score.stretchTarget;
-    return {"Longest stretch, " + targetLabel(score.stretchTarget) + " target",
+    return {translated("Longest stretch, %1 target", {targetLabel(score.stretchTarget)}),
             score.longestStretch > 0 ? Formatters::activeTime(score.longestStretch) : std::string(dash),
             score.longestStretch > 0 ? score.stretchShare() : 0.0, isLong ? "amber" : "accent"};
 }
 
 std::string withinTargetText(const EyeScore& score) {
-    return std::to_string(score.daysWithinTarget) + " of " + std::to_string(score.daysCounted);
+    return translated("%1 of %2",
+                      {std::to_string(score.daysWithinTarget), std::to_string(score.daysCounted)});
 }
 
 } // namespace
@@ -64,9 +66,9 @@ std::string_view keptTint(std::optional<double> share, bool isToday) {
 std::string targetLabel(double seconds) {
     const double hours = seconds / secondsPerHour;
     if (hours >= 1) {
-        return fixed(hours, hours == std::floor(hours) ? 0 : 1) + "h";
+        return translated("%1h", {fixed(hours, hours == std::floor(hours) ? 0 : 1)});
     }
-    return rounded(seconds / minute) + "m";
+    return translated("%1m", {rounded(seconds / minute)});
 }
 
 std::string axisLabel(double seconds) {
@@ -75,31 +77,33 @@ std::string axisLabel(double seconds) {
 
 std::string suggestion(const EyeScore& score, const ScreenTimeTargets& targets, double workInterval) {
     if (score.daysCounted < 1) {
-        return "Nothing recorded yet. The score fills in as the week goes on.";
+        return translated("Nothing recorded yet. The score fills in as the week goes on.");
     }
     if (targets.stretch < score.longestStretch) {
-        return "Your longest stretch today ran " + Formatters::activeTime(score.longestStretch) +
-               ". A break every " + Formatters::activeTime(workInterval) + " keeps it under " +
-               targetLabel(targets.stretch) + ".";
+        return translated("Your longest stretch today ran %1. A break every %2 keeps it under %3.",
+                          {Formatters::activeTime(score.longestStretch), Formatters::activeTime(workInterval),
+                           targetLabel(targets.stretch)});
     }
     if (score.keptRatio < EyeScore::goodKeptRatio) {
-        return "You kept " + percent(score.keptRatio) +
-               " of your breaks this week. Postponing beats skipping — the break still happens.";
+        return translated("You kept %1 of your breaks this week. Postponing beats skipping — the break still "
+                          "happens.",
+                          {percent(score.keptRatio)});
     }
     if (score.withinTargetShare() < 1.0) {
-        return std::to_string(score.daysCounted - score.daysWithinTarget) + " of " +
-               std::to_string(score.daysCounted) + " days ran past your " + targetLabel(targets.day) +
-               " target.";
+        return translated("%1 of %2 days ran past your %3 target.",
+                          {std::to_string(score.daysCounted - score.daysWithinTarget),
+                           std::to_string(score.daysCounted), targetLabel(targets.day)});
     }
-    return "Steady week: breaks kept, stretches short, every day inside target.";
+    return translated("Steady week: breaks kept, stretches short, every day inside target.");
 }
 
 std::array<ScoreMeter, 3> scoreMeters(const EyeScore& score) {
     const bool hasData = score.daysCounted > 0;
-    return {{{"Breaks kept", hasData ? percent(score.keptRatio) : std::string(dash), score.keptRatio},
-             stretchMeter(score),
-             {"Days within target", hasData ? withinTargetText(score) : std::string(dash),
-              score.withinTargetShare()}}};
+    return {
+        {{translated("Breaks kept"), hasData ? percent(score.keptRatio) : std::string(dash), score.keptRatio},
+         stretchMeter(score),
+         {translated("Days within target"), hasData ? withinTargetText(score) : std::string(dash),
+          score.withinTargetShare()}}};
 }
 
 } // namespace kestrelfen

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Enumeration.hpp"
+#include "base/Translated.hpp"
 
 #include <string>
 
@@ -14,12 +15,12 @@ enum class AppCategory { work, communication, browsing, media, utilities, other 
 template <>
 struct EnumerationTable<AppCategory> {
     static constexpr std::array<EnumerationRow<AppCategory>, 6> rows{{
-        {AppCategory::work, "work", "Work"},
-        {AppCategory::communication, "communication", "Communication"},
-        {AppCategory::browsing, "browsing", "Browsing"},
-        {AppCategory::media, "media", "Media"},
-        {AppCategory::utilities, "utilities", "Utilities"},
-        {AppCategory::other, "other", "Uncategorised"},
+        {AppCategory::work, "work", toTranslate("Work")},
+        {AppCategory::communication, "communication", toTranslate("Communication")},
+        {AppCategory::browsing, "browsing", toTranslate("Browsing")},
+        {AppCategory::media, "media", toTranslate("Media")},
+        {AppCategory::utilities, "utilities", toTranslate("Utilities")},
+        {AppCategory::other, "other", toTranslate("Uncategorised")},
     }};
 };
 

@@ -1,5 +1,6 @@
 #include "shell/DailySummary.hpp"
 
+#include "base/Translated.hpp"
 #include "core/Formatters.hpp"
 #include "core/Settings.hpp"
 #include "platform/ports/Calendar.hpp"
@@ -32,10 +33,11 @@ bool DailySummary::claim(Date now) {
 
 void DailySummary::post(const Numbers& numbers) {
     platform_.mainQueue.post([numbers, &notifier = platform_.notifier] {
-        notifier.post({.title = "Today on Kestrelfen",
-                       .body = std::to_string(numbers.breaksCompleted) + " breaks, " +
-                               std::to_string(numbers.breaksSkipped) + " skipped, " +
-                               Formatters::activeTime(numbers.activeSeconds) + " of screen time.",
+        notifier.post({.title = translated("Today on Kestrelfen"),
+                       .body = translated("%1 breaks, %2 skipped, %3 of screen time.",
+                                          {std::to_string(numbers.breaksCompleted),
+                                           std::to_string(numbers.breaksSkipped),
+                                           Formatters::activeTime(numbers.activeSeconds)}),
                        .sound = false});
     });
 }

@@ -1,5 +1,7 @@
 #include "store/HistoryEntry.hpp"
 
+#include "base/Translated.hpp"
+
 namespace kestrelfen {
 
 namespace {
@@ -7,23 +9,23 @@ namespace {
 std::string_view label(PauseKind reason) {
     switch (reason) {
     case PauseKind::manual:
-        return "Paused · manual";
+        return toTranslate("Paused · manual");
     case PauseKind::systemSleep:
-        return "Paused · sleep";
+        return toTranslate("Paused · sleep");
     case PauseKind::screenLocked:
-        return "Paused · lock";
+        return toTranslate("Paused · lock");
     case PauseKind::displaySleep:
-        return "Paused · display";
+        return toTranslate("Paused · display");
     case PauseKind::userIdle:
-        return "Paused · idle";
+        return toTranslate("Paused · idle");
     case PauseKind::meeting:
-        return "Paused · call";
+        return toTranslate("Paused · call");
     case PauseKind::videoPlayback:
-        return "Paused · video";
+        return toTranslate("Paused · video");
     case PauseKind::screenSharing:
-        return "Paused · sharing";
+        return toTranslate("Paused · sharing");
     case PauseKind::focusApp:
-        return "Paused · focus";
+        return toTranslate("Paused · focus");
     }
     return {};
 }
@@ -33,11 +35,11 @@ std::string_view label(PauseKind reason) {
 std::string_view label(const HistoryEntry::Kind& kind) {
     switch (kind.kind) {
     case HistoryEntry::Kind::Case::completed:
-        return kind.isLong ? "Long break" : "Completed";
+        return kind.isLong ? toTranslate("Long break") : toTranslate("Completed");
     case HistoryEntry::Kind::Case::paused:
         return label(kind.reason);
     case HistoryEntry::Kind::Case::skipped:
-        return "Skipped";
+        return toTranslate("Skipped");
     }
     return {};
 }

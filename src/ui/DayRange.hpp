@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Enumeration.hpp"
+#include "base/Translated.hpp"
 
 namespace kestrelfen {
 
@@ -10,9 +11,9 @@ enum class DayRange { today, week, month };
 template <>
 struct EnumerationTable<DayRange> {
     static constexpr std::array<EnumerationRow<DayRange>, 3> rows{{
-        {DayRange::today, "today", "Today"},
-        {DayRange::week, "week", "7 days"},
-        {DayRange::month, "month", "30 days"},
+        {DayRange::today, "today", toTranslate("Today")},
+        {DayRange::week, "week", toTranslate("7 days")},
+        {DayRange::month, "month", toTranslate("30 days")},
     }};
 };
 

@@ -1,5 +1,6 @@
 #include "ui/LaunchAtLogin.hpp"
 
+#include "base/Translated.hpp"
 #include "platform/ports/LoginItem.hpp"
 
 namespace kestrelfen {
@@ -17,7 +18,8 @@ void LaunchAtLogin::set(bool enabled) {
 }
 
 void LaunchAtLogin::finish(const std::optional<std::string>& failure) {
-    error_.set(failure ? std::optional("Couldn't update the login item: " + *failure) : std::nullopt);
+    error_.set(failure ? std::optional(translated("Couldn't update the login item: %1", {*failure}))
+                       : std::nullopt);
     if (failure) {
         reload();
     }

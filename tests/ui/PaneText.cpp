@@ -19,6 +19,7 @@ struct ControlText {
     }
     std::string operator()(const ToggleState& toggle) const { return toggle.isOn ? "on" : "off"; }
     std::string operator()(const CardState& card) const { return card.isSelected ? "selected" : "card"; }
+    std::string operator()(const ToldState& told) const { return told.word; }
 };
 
 std::string kindText(PaneBlock::Kind kind) {

@@ -59,5 +59,23 @@ TEST(SettingChoices, WithoutAChoiceTheSnoozeAndTheRetentionInForceAreShown) {
               PreferenceValue(days(chosenRetention(preferences))));
 }
 
+TEST(SettingChoices, ALengthIsFoundHoweverItsNumberIsWritten) {
+    const SettingChoice& snooze = *SettingChoice::find("snoozeDurationSeconds");
+    const SettingChoice::Option* const fiveMinutes = snooze.option("300");
+    ASSERT_NE(fiveMinutes, nullptr);
+    EXPECT_EQ(fiveMinutes->value, PreferenceValue(300.0));
+    EXPECT_EQ(snooze.option("300.0"), fiveMinutes);
+    EXPECT_EQ(snooze.option("3e2"), fiveMinutes);
+}
+
+TEST(SettingChoices, WhatIsNoOptionIsNotFound) {
+    const SettingChoice& snooze = *SettingChoice::find("snoozeDurationSeconds");
+    for (const char* const word : {"", "300 s", "301", "-300", "1e999", "five"}) {
+        EXPECT_EQ(snooze.option(word), nullptr) << word;
+    }
+    EXPECT_EQ(SettingChoice::find("snoozesPerDay")->option("4"), nullptr);
+    EXPECT_EQ(SettingChoice::find("workIntervalSeconds"), nullptr);
+}
+
 } // namespace
 } // namespace kestrelfen

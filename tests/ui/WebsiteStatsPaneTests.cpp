@@ -74,6 +74,13 @@ TEST_F(WebsiteStatsPaneTest, PermissionIsThatOfTheLastReload) {
     EXPECT_EQ(stats->permission(Browser::safari), AutomationPermission::granted);
 }
 
+TEST_F(WebsiteStatsPaneTest, BrowserThatCameSinceTheLastReloadIsNotYetAsked) {
+    stats->reload();
+    permit(Browser::safari, Permission::granted);
+    EXPECT_EQ(stats->permission(Browser::safari), AutomationPermission::notDetermined);
+    EXPECT_EQ(row(0), "Safari / macOS will ask when you allow it / off");
+}
+
 TEST_F(WebsiteStatsPaneTest, BrowserThatIsGoneWhileShownSaysSo) {
     permit(Browser::safari, Permission::denied);
     stats->reload();

@@ -3,12 +3,14 @@
 #include "platform/linux/FreeMemory.hpp"
 #include "platform/linux/SessionEnd.hpp"
 #include "platform/linux/TerminationSignals.hpp"
+#include "platform/posix/GettextCatalogue.hpp"
 #include "shell/AppDelegate.hpp"
 #include "shell/desktop/KestrelfenAppPlatform.hpp"
 #include "shell/desktop/QuickOverlayWindows.hpp"
 #include "shell/desktop/QuickPopover.hpp"
 #include "shell/desktop/QuickSceneWindows.hpp"
 #include "shell/desktop/SceneFaces.hpp"
+#include "ui/Wording.hpp"
 
 #include <QDir>
 #include <QGuiApplication>
@@ -53,6 +55,21 @@ void preferSoftwareRenderer() {
     }
 }
 
+/// The texts in the person's language, which lie beside the program.
+class Texts {
+  public:
+    Texts() { useCatalogue(&worded_); }
+    ~Texts() { useCatalogue(nullptr); }
+    Texts(const Texts&) = delete;
+    Texts& operator=(const Texts&) = delete;
+
+  private:
+    GettextCatalogue own_{QDir::cleanPath(QGuiApplication::applicationDirPath() +
+                                          QStringLiteral("/../share/locale"))
+                              .toStdString()};
+    WordedCatalogue worded_{own_};
+};
+
 } // namespace
 
 /// Everything of the running program, in the order in which it comes up.
@@ -67,6 +84,7 @@ class KestrelfenApp::Parts {
     bool hasEnded() const { return hasEnded_; }
 
   private:
+    Texts texts_;
     KestrelfenAppPlatform machine_;
     QuickOverlayWindows windows_{machine_.ports(), machine_.views, *machine_.escapeKey, machine_.compositor};
     AppDelegate delegate_{machine_.ports(), machine_.storeConfiguration(), windows_};
@@ -89,13 +107,15 @@ class KestrelfenApp::Parts {
 
 KestrelfenApp::Parts::Parts() {
     windows_.setEngine(delegate_.engine());
-    setSceneFaces(scenes_, delegate_, {machine_.ports(), machine_.fileWriter, machine_.saveDialog, [this] {
-                                           machine_.openAccessibilitySettings();
-                                       }});
     // Only what is drawn in memory can be handed over to the desktop.
-    if (QQuickWindow::sceneGraphBackend() == QStringLiteral("software")) {
+    const bool canUseLayers = QQuickWindow::sceneGraphBackend() == QStringLiteral("software");
+    if (canUseLayers) {
         windows_.setLayers(machine_.session.layers());
     }
+    setSceneFaces(scenes_, delegate_,
+                  {machine_.ports(), machine_.fileWriter, machine_.saveDialog,
+                   [this] { machine_.openAccessibilitySettings(); },
+                   machine_.session.overlayReach(canUseLayers)});
 }
 
 void KestrelfenApp::Parts::launch() {

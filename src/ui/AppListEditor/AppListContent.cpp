@@ -7,10 +7,10 @@ namespace kestrelfen {
 namespace {
 
 std::vector<AppListContent::Row> rowsOf(const std::vector<AppListEditor::App>& apps,
-                                        std::string_view action) {
+                                        std::string_view spokenAction) {
     std::vector<AppListContent::Row> rows;
     for (const auto& app : apps) {
-        rows.push_back({app.bundleID, app.name, std::string(action) + " " + app.name});
+        rows.push_back({app.bundleID, app.name, translated(spokenAction, {app.name})});
     }
     return rows;
 }
@@ -19,8 +19,8 @@ std::vector<AppListContent::Row> rowsOf(const std::vector<AppListEditor::App>& a
 
 AppListContent AppListContent::of(const AppListEditor& editor) {
     const SmartPauseWords words = SmartPauseWords::of(editor.kind());
-    return {words.title, words.sentence, rowsOf(editor.ids(), "Remove"),
-            rowsOf(editor.runningChoices(), "Add")};
+    return {words.title, words.sentence, rowsOf(editor.ids(), toTranslate("Remove %1")),
+            rowsOf(editor.runningChoices(), toTranslate("Add %1"))};
 }
 
 } // namespace kestrelfen

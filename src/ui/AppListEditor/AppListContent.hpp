@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Translated.hpp"
 #include "ui/AppListEditor/AppListEditor.hpp"
 
 #include <string>
@@ -19,11 +20,11 @@ struct AppListContent {
         friend bool operator==(const Row&, const Row&) = default;
     };
 
-    static constexpr std::string_view emptyText = "No apps yet.";
-    static constexpr std::string_view addHeading = "Add a running app";
-    static constexpr std::string_view nothingToAddText = "Everything running is already listed.";
-    static constexpr std::string_view restoreButton = "Restore Defaults";
-    static constexpr std::string_view doneButton = "Done";
+    static constexpr std::string_view emptyText = toTranslate("No apps yet.");
+    static constexpr std::string_view addHeading = toTranslate("Add a running app");
+    static constexpr std::string_view nothingToAddText = toTranslate("Everything running is already listed.");
+    static constexpr std::string_view restoreButton = toTranslate("Restore Defaults");
+    static constexpr std::string_view doneButton = toTranslate("Done");
 
     std::string title;
     std::string sentence;

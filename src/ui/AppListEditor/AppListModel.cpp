@@ -25,6 +25,10 @@ std::vector<KeyedListModel::Row> keyed(const std::vector<AppListContent::Row>& a
     return rows;
 }
 
+QString textOf(std::string_view original) {
+    return shownText(std::string_view(translated(original)));
+}
+
 } // namespace
 
 AppListModel::AppListModel(const Platform& platform, SmartPauseKind kind)
@@ -44,11 +48,11 @@ QString AppListModel::sentence() const {
 }
 
 QVariantMap AppListModel::texts() const {
-    return {{"empty", shownText(AppListContent::emptyText)},
-            {"addHeading", shownText(AppListContent::addHeading)},
-            {"nothingToAdd", shownText(AppListContent::nothingToAddText)},
-            {"restore", shownText(AppListContent::restoreButton)},
-            {"done", shownText(AppListContent::doneButton)}};
+    return {{"empty", textOf(AppListContent::emptyText)},
+            {"addHeading", textOf(AppListContent::addHeading)},
+            {"nothingToAdd", textOf(AppListContent::nothingToAddText)},
+            {"restore", textOf(AppListContent::restoreButton)},
+            {"done", textOf(AppListContent::doneButton)}};
 }
 
 void AppListModel::refresh() {

@@ -3,7 +3,6 @@
 #include "core/Formatters.hpp"
 #include "core/HistoryRetention.hpp"
 #include "platform/ports/TimeFormat.hpp"
-#include "ui/Plural.hpp"
 
 namespace kestrelfen {
 
@@ -29,23 +28,25 @@ std::string taskOf(const HistoryEntry& entry) {
     if (entry.taskTitle) {
         return *entry.taskTitle;
     }
-    return entry.kind.kind == Kind::paused ? "not counted as screen time" : dash;
+    return entry.kind.kind == Kind::paused ? translated("not counted as screen time") : dash;
 }
 
 } // namespace
 
 BreakHistoryRow BreakHistoryRow::of(const HistoryEntry& entry, const TimeFormat& timeFormat) {
     return {.started = timeFormat.shortTime(entry.startedAt),
-            .type = label(entry.kind),
+            .type = translated(label(entry.kind)),
             .typeTint = tintOf(entry.kind.kind),
             .duration = entry.seconds ? Formatters::countdown(*entry.seconds) : dash,
             .task = taskOf(entry),
             .isWithoutTask = !entry.taskTitle,
-            .display = entry.displayCount < 1 ? dash : counted(entry.displayCount, "screen")};
+            .display = entry.displayCount < 1
+                           ? dash
+                           : translatedCount(entry.displayCount, "%1 screen", "%1 screens")};
 }
 
 std::array<std::string, 5> BreakHistoryRow::columns() const {
-    return {started, std::string(type), duration, task, display};
+    return {started, type, duration, task, display};
 }
 
 std::string BreakHistoryRow::sentence() const {
@@ -62,10 +63,10 @@ BreakHistoryContent BreakHistoryContent::of(std::size_t rowCount, bool hasLoaded
                                             const Preferences& preferences) {
     const HistoryRetention retention = chosenRetention(preferences);
     BreakHistoryContent content;
-    content.summary =
-        counted(static_cast<std::int64_t>(rowCount), "row") + " · retention " + std::string(label(retention));
+    content.summary = translatedCount(static_cast<std::int64_t>(rowCount), "%1 row", "%1 rows") + " · " +
+                      translated("retention %1", {translated(label(retention))});
     if (rowCount == 0) {
-        content.emptyLine = hasLoaded ? "Nothing recorded in this range." : "…";
+        content.emptyLine = hasLoaded ? translated("Nothing recorded in this range.") : "…";
     }
     return content;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Translated.hpp"
 #include "platform/ports/Platform.hpp"
 #include "store/HistoryEntry.hpp"
 
@@ -14,7 +15,7 @@ namespace kestrelfen {
 /// One line of the history's table.
 struct BreakHistoryRow {
     std::string started;
-    std::string_view type;
+    std::string type;
     /// The name of its colour.
     std::string_view typeTint;
     std::string duration;
@@ -40,14 +41,17 @@ struct BreakHistoryContent {
         int width = 0;
     };
 
-    static constexpr std::array<Column, 5> columns{
-        {{"Started", 96}, {"Type", 116}, {"Duration", 96}, {"Task credited", 0}, {"Display", 90}}};
+    static constexpr std::array<Column, 5> columns{{{toTranslate("Started"), 96},
+                                                    {toTranslate("Type"), 116},
+                                                    {toTranslate("Duration"), 96},
+                                                    {toTranslate("Task credited"), 0},
+                                                    {toTranslate("Display"), 90}}};
     static constexpr std::string_view footnote =
-        "Stored in SwiftData behind a versioned schema · pruning runs at most once a day";
+        toTranslate("Stored in SwiftData behind a versioned schema · pruning runs at most once a day");
 
     std::string summary;
     /// Stands where there are no rows.
-    std::optional<std::string_view> emptyLine;
+    std::optional<std::string> emptyLine;
 
     static BreakHistoryContent of(std::size_t rowCount, bool hasLoaded, const Preferences& preferences);
 

@@ -38,7 +38,7 @@ Item {
             options: view.model.ranges
             selection: view.model.range
             accentSelection: true
-            spokenLabel: view.model.summary
+            spokenLabel: SpokenWords.range
             onChosen: value => view.model.chooseRange(value)
         }
 

@@ -26,6 +26,7 @@ Item {
 
                 width: header.columnWidths[index]
                 text: header.columns[index].header
+                Accessible.role: Accessible.ColumnHeader
             }
         }
     }

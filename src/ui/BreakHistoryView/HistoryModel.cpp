@@ -18,7 +18,8 @@ HistoryModel::HistoryModel(const Platform& platform, BreakEngine& engine, Kestre
 QVariantList HistoryModel::ranges() const {
     QVariantList list;
     for (const DayRange each : allCases<DayRange>()) {
-        list.append(QVariantMap{{"value", shownText(rawValue(each))}, {"label", shownText(label(each))}});
+        list.append(QVariantMap{{"value", shownText(rawValue(each))},
+                                {"label", shownText(std::string_view(translated(label(each))))}});
     }
     return list;
 }
@@ -30,17 +31,18 @@ QString HistoryModel::range() const {
 QVariantList HistoryModel::columns() const {
     QVariantList list;
     for (const auto& [header, width] : BreakHistoryContent::columns) {
-        list.append(QVariantMap{{"header", shownText(header)}, {"width", width}});
+        list.append(
+            QVariantMap{{"header", shownText(std::string_view(translated(header)))}, {"width", width}});
     }
     return list;
 }
 
 QString HistoryModel::emptyLine() const {
-    return content_.emptyLine ? shownText(*content_.emptyLine) : QString();
+    return shownText(content_.emptyLine);
 }
 
 QString HistoryModel::footnote() const {
-    return shownText(BreakHistoryContent::footnote);
+    return shownText(std::string_view(translated(BreakHistoryContent::footnote)));
 }
 
 void HistoryModel::show() {
@@ -66,7 +68,7 @@ QVariant HistoryModel::data(const QModelIndex& index, int role) const {
     const auto row =
         BreakHistoryRow::of(entries_.at(static_cast<std::size_t>(index.row())), platform_.timeFormat);
     return QVariantMap{{"started", shownText(std::string_view(row.started))},
-                       {"type", shownText(row.type)},
+                       {"type", shownText(std::string_view(row.type))},
                        {"tint", shownText(row.typeTint)},
                        {"duration", shownText(std::string_view(row.duration))},
                        {"task", QString::fromStdString(row.task)},

@@ -1,5 +1,6 @@
 #include "ui/BreakOverlayView/BreakOverlayContent.hpp"
 
+#include "base/Translated.hpp"
 #include "core/BreakEngine.hpp"
 #include "core/DoubleEscapeAction.hpp"
 #include "core/EnforcementLevel.hpp"
@@ -22,11 +23,12 @@ void addSnoozes(std::vector<Control>& controls) {
 
 void addSkip(std::vector<Control>& controls, const BreakEngine& engine, double delay) {
     if (engine.canSkipCurrentBreak()) {
-        controls.push_back({Control::Kind::skip, "Skip This Break", "Skip This Break"});
+        controls.push_back(
+            {Control::Kind::skip, translated("Skip This Break"), translated("Skip This Break")});
         return;
     }
     const double left = std::max(delay - engine.elapsedInCurrentBreak(), 0.0);
-    const std::string text = "Skip in " + Formatters::wholeSeconds(left);
+    const std::string text = translated("Skip in %1", {Formatters::wholeSeconds(left)});
     controls.push_back({Control::Kind::skipWait, text, text});
 }
 
@@ -36,7 +38,7 @@ std::vector<Control> overlayControls(const BreakEngine& engine, const Preference
         addSnoozes(result);
     }
     if (engine.canEndBreakEarly()) {
-        result.push_back({Control::Kind::endBreak, "End Break", "End Break"});
+        result.push_back({Control::Kind::endBreak, translated("End Break"), translated("End Break")});
     }
     const auto delay = skipDelay(current<EnforcementLevel>(preferences));
     if (delay && Settings::boolean(preferences, "showSkipButton", true)) {
@@ -45,23 +47,33 @@ std::vector<Control> overlayControls(const BreakEngine& engine, const Preference
     return result;
 }
 
+std::string noteOfEscape(DoubleEscapeAction action) {
+    switch (action) {
+    case DoubleEscapeAction::nothing:
+        return translated("esc does nothing");
+    case DoubleEscapeAction::snooze:
+        return translated("esc twice to snooze");
+    case DoubleEscapeAction::skip:
+        return translated("esc twice to skip");
+    }
+    return {};
+}
+
 std::string noteOfCoverage(const Preferences& preferences, std::int64_t displayCount) {
-    const std::string displays = displayCount == 1 ? "1 display" : std::to_string(displayCount) + " displays";
-    const std::string note = "covering " + displays + " · ";
-    const DoubleEscapeAction action = current<DoubleEscapeAction>(preferences);
-    return action == DoubleEscapeAction::nothing ? note + "esc does nothing"
-                                                 : note + "esc twice to " + std::string(rawValue(action));
+    return translatedCount(displayCount, "covering %1 display", "covering %1 displays") + " · " +
+           noteOfEscape(current<DoubleEscapeAction>(preferences));
 }
 
 void fillLong(BreakOverlayContent& content, const BreakEngine& engine, const Preferences& preferences) {
     const std::int64_t every = engine.config().longBreakEvery;
-    content.eyebrow = "Long break · every 4th cycle";
-    content.title = "Stand up and walk";
-    content.body = "Five minutes. Get water, look out a window, let your eyes refocus.";
+    content.eyebrow = translated("Long break · every 4th cycle");
+    content.title = translated("Stand up and walk");
+    content.body = translated("Five minutes. Get water, look out a window, let your eyes refocus.");
     content.cadenceDots = every;
-    content.cadenceText = std::to_string(every) + " work intervals since the last long break";
+    content.cadenceText = translated("%1 work intervals since the last long break", {std::to_string(every)});
     content.cadenceSkip =
         Settings::boolean(preferences, "showSkipButton", true) && engine.canSkipCurrentBreak();
+    content.cadenceSkipText = translated("Skip");
 }
 
 } // namespace
@@ -78,8 +90,8 @@ BreakOverlayContent BreakOverlayContent::of(const BreakEngine& engine, const Pre
         fillLong(content, engine, preferences);
         return content;
     }
-    content.title = "Look 20 feet away";
-    content.body = "Blink slowly. Roll your shoulders. Nothing is being counted as screen time.";
+    content.title = translated("Look 20 feet away");
+    content.body = translated("Blink slowly. Roll your shoulders. Nothing is being counted as screen time.");
     content.coverageNote = noteOfCoverage(preferences, displayCount);
     return content;
 }

@@ -40,7 +40,7 @@ struct BreakOverlayContent {
     std::optional<std::int64_t> cadenceDots;
     std::optional<std::string> cadenceText;
     std::optional<bool> cadenceSkip;
-    std::string cadenceSkipText = "Skip";
+    std::string cadenceSkipText;
 
     /// `displayCount` is the number of displays connected now.
     static BreakOverlayContent of(const BreakEngine& engine, const Preferences& preferences,

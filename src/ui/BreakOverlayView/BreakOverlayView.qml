@@ -58,6 +58,7 @@ Item {
                 text: view.model.title
                 size: 31
                 weight: Font.DemiBold
+                Accessible.role: Accessible.Heading
                 tracking: -0.9
             }
 

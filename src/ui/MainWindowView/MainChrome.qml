@@ -14,7 +14,7 @@ Item {
         options: chrome.model.tabs
         selection: chrome.model.tab
         accentSelection: true
-        spokenLabel: "Kestrelfen"
+        spokenLabel: SpokenWords.view
         onChosen: value => chrome.model.chooseTab(value)
     }
 

@@ -9,6 +9,7 @@ Item {
 
     required property MainWindowModel model
     readonly property string chosen: model.tab
+    readonly property var choices: model.tabs
     readonly property var tabViews: [
         {
             name: "screenTime",
@@ -61,6 +62,8 @@ Item {
             anchors.fill: parent
             anchors.topMargin: chrome.height + 1
             visible: isChosen
+            Accessible.role: Accessible.Pane
+            Accessible.name: tabs.choices.find(each => each.value === modelData.name)?.label ?? ""
             // What is hidden would keep the keyboard.
             enabled: isChosen
             onIsChosenChanged: showIfChosen()

@@ -1,5 +1,6 @@
 #include "ui/MainWindowView/MainWindowContent.hpp"
 
+#include "base/Translated.hpp"
 #include "core/BreakEngine.hpp"
 #include "core/Formatters.hpp"
 #include "core/Settings.hpp"
@@ -12,13 +13,13 @@ std::string metaOf(const BreakEngine& engine) {
     switch (engine.state().phase()) {
     case BreakState::Case::working:
     case BreakState::Case::preBreakWarning:
-        return "next break " + Formatters::countdown(engine.timeUntilNextBreak());
+        return translated("next break %1", {Formatters::countdown(engine.timeUntilNextBreak())});
     case BreakState::Case::onBreak:
-        return "on break " + Formatters::countdown(engine.breakRemaining());
+        return translated("on break %1", {Formatters::countdown(engine.breakRemaining())});
     case BreakState::Case::paused:
-        return std::string(rawValue(*engine.state().reason()));
+        return translated(rawValue(*engine.state().reason()));
     case BreakState::Case::idle:
-        return "idle";
+        return translated("idle");
     }
     return {};
 }
@@ -30,14 +31,14 @@ MainWindowContent MainWindowContent::of(const BreakEngine& engine, const Prefere
             .meta = metaOf(engine)};
 }
 
-std::string_view mainTabLabel(MainTab tab) {
+std::string mainTabLabel(MainTab tab) {
     switch (tab) {
     case MainTab::screenTime:
-        return "Screen Time";
+        return translated("Screen Time");
     case MainTab::breaks:
-        return "Breaks";
+        return translated("Breaks");
     case MainTab::tasks:
-        return "Tasks";
+        return translated("Tasks");
     }
     return {};
 }

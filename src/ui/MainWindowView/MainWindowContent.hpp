@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Navigation.hpp"
+#include "base/Translated.hpp"
 
 #include <string>
 #include <string_view>
@@ -12,7 +13,7 @@ class Preferences;
 
 /// Every text and flag of the main window around its tabs at one moment.
 struct MainWindowContent {
-    static constexpr std::string_view settingsTip = "Open Settings";
+    static constexpr std::string_view settingsTip = toTranslate("Open Settings");
 
     /// Whether the first run's welcome takes the window's place.
     bool showsOnboarding = true;
@@ -25,6 +26,6 @@ struct MainWindowContent {
 };
 
 /// "Screen Time".
-std::string_view mainTabLabel(MainTab tab);
+std::string mainTabLabel(MainTab tab);
 
 } // namespace kestrelfen

@@ -1,5 +1,6 @@
 #include "ui/MainWindowView/MainWindowModel.hpp"
 
+#include "base/Translated.hpp"
 #include "platform/ports/Preferences.hpp"
 #include "ui/ShownText.hpp"
 
@@ -20,8 +21,8 @@ MainWindowModel::MainWindowModel(const MainWindowSources& sources, const Platfor
 QVariantList MainWindowModel::tabs() const {
     QVariantList list;
     for (const MainTab each : allCases<MainTab>()) {
-        list.append(
-            QVariantMap{{"value", shownText(rawValue(each))}, {"label", shownText(mainTabLabel(each))}});
+        list.append(QVariantMap{{"value", shownText(rawValue(each))},
+                                {"label", shownText(std::string_view(mainTabLabel(each)))}});
     }
     return list;
 }
@@ -31,7 +32,7 @@ QString MainWindowModel::tab() const {
 }
 
 QString MainWindowModel::settingsTip() const {
-    return shownText(MainWindowContent::settingsTip);
+    return shownText(std::string_view(translated(MainWindowContent::settingsTip)));
 }
 
 void MainWindowModel::chooseTab(const QString& tab) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Enumeration.hpp"
+#include "base/Translated.hpp"
 
 namespace kestrelfen {
 
@@ -10,12 +11,12 @@ enum class FooterItem { screenTime, usageDetail, tasks, breaks, settings, quit }
 template <>
 struct EnumerationTable<FooterItem> {
     static constexpr std::array<EnumerationRow<FooterItem>, 6> rows{{
-        {FooterItem::screenTime, "screenTime", "Screen Time"},
-        {FooterItem::usageDetail, "usageDetail", "App Usage Detail"},
-        {FooterItem::tasks, "tasks", "Tasks"},
-        {FooterItem::breaks, "breaks", "Break History"},
-        {FooterItem::settings, "settings", "Settings"},
-        {FooterItem::quit, "quit", "Quit Kestrelfen"},
+        {FooterItem::screenTime, "screenTime", toTranslate("Screen Time")},
+        {FooterItem::usageDetail, "usageDetail", toTranslate("App Usage Detail")},
+        {FooterItem::tasks, "tasks", toTranslate("Tasks")},
+        {FooterItem::breaks, "breaks", toTranslate("Break History")},
+        {FooterItem::settings, "settings", toTranslate("Settings")},
+        {FooterItem::quit, "quit", toTranslate("Quit Kestrelfen")},
     }};
 };
 

@@ -1,5 +1,6 @@
 #include "ui/MenuBarView/MenuBarContent.hpp"
 
+#include "base/Translated.hpp"
 #include "core/BreakEngine.hpp"
 #include "core/Formatters.hpp"
 #include "ui/MenuBarView/PausedCaption.hpp"
@@ -13,43 +14,47 @@ void fillHeader(MenuBarContent& content, const BreakEngine& engine) {
     switch (engine.state().phase()) {
     case BreakState::Case::working:
     case BreakState::Case::preBreakWarning:
-        content.eyebrow = "Next break in";
+        content.eyebrow = translated("Next break in");
         content.value = Formatters::spelled(engine.timeUntilNextBreak());
-        content.caption =
-            "Then " +
-            Formatters::duration(engine.isNextBreakLong() ? config.longBreakDuration : config.breakDuration) +
-            " away from the screen.";
+        content.caption = translated("Then %1 away from the screen.",
+                                     {Formatters::duration(engine.isNextBreakLong() ? config.longBreakDuration
+                                                                                    : config.breakDuration)});
         return;
     case BreakState::Case::onBreak:
-        content.eyebrow = "Break ends in";
+        content.eyebrow = translated("Break ends in");
         content.value = Formatters::spelled(engine.breakRemaining());
-        content.caption = engine.currentBreakIsLong() ? "Stand up and walk it off." : "Look 20 feet away.";
+        content.caption = engine.currentBreakIsLong() ? translated("Stand up and walk it off.")
+                                                      : translated("Look 20 feet away.");
         return;
     case BreakState::Case::paused:
-        content.eyebrow = "Paused";
+        content.eyebrow = translated("Paused");
         content.value = Formatters::spelled(engine.timeUntilNextBreak());
         content.caption = pausedCaption(*engine.state().reason());
         return;
     case BreakState::Case::idle:
-        content.eyebrow = "Not running";
-        content.value = "Not counting";
-        content.caption = "The timer is stopped.";
+        content.eyebrow = translated("Not running");
+        content.value = translated("Not counting");
+        content.caption = translated("The timer is stopped.");
         return;
     }
 }
 
 std::string cycleTextOf(const BreakEngine& engine) {
-    const std::string text = "Cycle " + std::to_string(engine.cyclePosition()) + " of " +
-                             std::to_string(engine.config().longBreakEvery);
-    return engine.isNextBreakLong() ? text + " · long break next" : text;
+    const std::string position = std::to_string(engine.cyclePosition());
+    const std::string length = std::to_string(engine.config().longBreakEvery);
+    return engine.isNextBreakLong() ? translated("Cycle %1 of %2 · long break next", {position, length})
+                                    : translated("Cycle %1 of %2", {position, length});
 }
 
 std::array<MenuBarContent::Button, 3> buttonsOf(const BreakEngine& engine) {
     const bool paused = engine.state().is(BreakState::Case::paused);
     const bool canSnooze = engine.canSnooze();
-    return {{{paused ? "Resume" : "Pause", true},
-             {canSnooze ? "Snooze" : "Skip", !paused && (canSnooze || engine.canSkipNextBreak())},
-             {engine.state().is(BreakState::Case::onBreak) ? "End Break" : "Break Now", true}}};
+    return {
+        {{paused ? translated("Resume") : translated("Pause"), true},
+         {canSnooze ? translated("Snooze") : translated("Skip"),
+          !paused && (canSnooze || engine.canSkipNextBreak())},
+         {engine.state().is(BreakState::Case::onBreak) ? translated("End Break") : translated("Break Now"),
+          true}}};
 }
 
 void fillToday(MenuBarContent& content, const BreakEngine& engine, double activeSeconds) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Translated.hpp"
 #include "store/TaskSummary.hpp"
 
 #include <array>
@@ -31,10 +32,10 @@ struct MenuBarContent {
     /// Pause or resume, snooze or skip, break.
     std::array<Button, 3> buttons;
 
-    static constexpr std::string_view todayEyebrow = "Today";
-    static constexpr std::string_view breaksTitle = "Breaks completed";
-    static constexpr std::string_view screenTimeTitle = "Screen time";
-    static constexpr std::string_view skippedTitle = "Skipped";
+    static constexpr std::string_view todayEyebrow = toTranslate("Today");
+    static constexpr std::string_view breaksTitle = toTranslate("Breaks completed");
+    static constexpr std::string_view screenTimeTitle = toTranslate("Screen time");
+    static constexpr std::string_view skippedTitle = toTranslate("Skipped");
     /// Completed breaks of all that were due.
     std::string breaks;
     /// The same as a share; 0 while none was due.
@@ -50,7 +51,7 @@ struct MenuBarContent {
         friend bool operator==(const ActiveTaskRow&, const ActiveTaskRow&) = default;
     };
 
-    static constexpr std::string_view activeTaskCaption = "Active task · credited each interval";
+    static constexpr std::string_view activeTaskCaption = toTranslate("Active task · credited each interval");
     std::optional<ActiveTaskRow> activeTask;
 
     /// `activeSeconds` are those of the day.

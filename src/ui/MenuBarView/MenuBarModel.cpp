@@ -1,5 +1,6 @@
 #include "ui/MenuBarView/MenuBarModel.hpp"
 
+#include "base/Translated.hpp"
 #include "core/BreakEngine.hpp"
 #include "platform/ports/Preferences.hpp"
 #include "screentime/ScreenTimeTracker.hpp"
@@ -13,7 +14,7 @@ enum Key { pauseOrResume, snoozeOrSkip, breakNowOrEnd };
 
 QVariantMap objectOf(FooterItem item) {
     return {{QStringLiteral("key"), static_cast<int>(item)},
-            {QStringLiteral("title"), shownText(label(item))},
+            {QStringLiteral("title"), shownText(std::string_view(translated(label(item))))},
             {QStringLiteral("symbol"), shownText(symbol(item))}};
 }
 
@@ -39,19 +40,19 @@ int MenuBarModel::prominentKey() const {
 }
 
 QString MenuBarModel::todayEyebrow() const {
-    return shownText(MenuBarContent::todayEyebrow);
+    return shownText(std::string_view(translated(MenuBarContent::todayEyebrow)));
 }
 
 QString MenuBarModel::breaksTitle() const {
-    return shownText(MenuBarContent::breaksTitle);
+    return shownText(std::string_view(translated(MenuBarContent::breaksTitle)));
 }
 
 QString MenuBarModel::screenTimeTitle() const {
-    return shownText(MenuBarContent::screenTimeTitle);
+    return shownText(std::string_view(translated(MenuBarContent::screenTimeTitle)));
 }
 
 QString MenuBarModel::skippedTitle() const {
-    return shownText(MenuBarContent::skippedTitle);
+    return shownText(std::string_view(translated(MenuBarContent::skippedTitle)));
 }
 
 QString MenuBarModel::activeTaskTitle() const {
@@ -59,7 +60,7 @@ QString MenuBarModel::activeTaskTitle() const {
 }
 
 QString MenuBarModel::activeTaskCaption() const {
-    return shownText(MenuBarContent::activeTaskCaption);
+    return shownText(std::string_view(translated(MenuBarContent::activeTaskCaption)));
 }
 
 QString MenuBarModel::activeTaskCredits() const {

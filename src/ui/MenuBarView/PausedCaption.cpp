@@ -1,27 +1,29 @@
 #include "ui/MenuBarView/PausedCaption.hpp"
 
+#include "base/Translated.hpp"
+
 namespace kestrelfen {
 
 std::string pausedCaption(PauseReason reason) {
     switch (reason) {
     case PauseReason::manual:
-        return "Paused by you. Resume when ready.";
+        return translated("Paused by you. Resume when ready.");
     case PauseReason::systemSleep:
-        return "The Mac slept. Resumes on wake.";
+        return translated("The Mac slept. Resumes on wake.");
     case PauseReason::screenLocked:
-        return "Screen locked. Resumes on unlock.";
+        return translated("Screen locked. Resumes on unlock.");
     case PauseReason::displaySleep:
-        return "Display asleep. Resumes on wake.";
+        return translated("Display asleep. Resumes on wake.");
     case PauseReason::userIdle:
-        return "You stepped away. Resumes on input.";
+        return translated("You stepped away. Resumes on input.");
     case PauseReason::meeting:
-        return "You're on a call. Resumes when it ends.";
+        return translated("You're on a call. Resumes when it ends.");
     case PauseReason::videoPlayback:
-        return "Something is playing. Resumes when it stops.";
+        return translated("Something is playing. Resumes when it stops.");
     case PauseReason::screenSharing:
-        return "Capturing the screen. Resumes when you stop.";
+        return translated("Capturing the screen. Resumes when you stop.");
     case PauseReason::focusApp:
-        return "Deep focus app in front. Resumes when you leave.";
+        return translated("Deep focus app in front. Resumes when you leave.");
     }
     return {};
 }

@@ -1,5 +1,6 @@
 #include "ui/MenuBarView/StatusItemContent.hpp"
 
+#include "base/Translated.hpp"
 #include "core/BreakEngine.hpp"
 
 namespace kestrelfen {
@@ -26,15 +27,15 @@ std::string tooltipOf(BreakState::Case phase, const std::string& text) {
     switch (phase) {
     case BreakState::Case::working:
     case BreakState::Case::preBreakWarning:
-        return "Next break in " + text;
+        return translated("Next break in %1", {text});
     case BreakState::Case::onBreak:
-        return "Break ends in " + text;
+        return translated("Break ends in %1", {text});
     case BreakState::Case::paused:
-        return "Paused, " + text + " left";
+        return translated("Paused, %1 left", {text});
     case BreakState::Case::idle:
         break;
     }
-    return "Not running";
+    return translated("Not running");
 }
 
 } // namespace

@@ -39,6 +39,7 @@ Column {
     PresetCards {
         width: parent.width
         cards: page.model.presets
+        spokenLabel: page.words.title
         onChosen: key => page.model.choosePreset(key)
     }
 

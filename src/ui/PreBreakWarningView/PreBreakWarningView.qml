@@ -6,12 +6,15 @@ HudCard {
     id: view
 
     required property PreBreakWarningModel model
+    /// Kept as it was when the card came: a screen reader says each new name of an alert.
+    property string announcement: ""
 
     signal dragBegan
     signal dragged
 
     Accessible.role: Accessible.AlertMessage
-    Accessible.name: model.title
+    Accessible.name: announcement
+    Component.onCompleted: announcement = model.title
 
     MouseArea {
         width: 400
@@ -26,12 +29,12 @@ HudCard {
 
         Item {
             width: parent.width
-            height: 76
+            height: 34 + Math.max(counter.height, words.height)
 
             Item {
                 id: counter
                 x: 18
-                y: 16
+                y: 16 + Math.max(0, (words.height - height) / 2)
                 width: 42
                 height: 42
 
@@ -52,21 +55,28 @@ HudCard {
             }
 
             Column {
+                id: words
                 anchors.left: counter.right
                 anchors.leftMargin: 14
+                anchors.right: parent.right
+                anchors.rightMargin: 18
                 anchors.verticalCenter: counter.verticalCenter
                 spacing: 3
 
                 Label {
+                    width: parent.width
                     text: view.model.title
                     size: 15
                     weight: Font.DemiBold
+                    wrapMode: Text.WordWrap
                 }
 
                 Label {
+                    width: parent.width
                     text: view.model.caption
                     color: Glass.slate
                     size: 12.5
+                    wrapMode: Text.WordWrap
                 }
             }
         }

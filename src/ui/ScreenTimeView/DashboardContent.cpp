@@ -1,5 +1,6 @@
 #include "ui/ScreenTimeView/DashboardContent.hpp"
 
+#include "base/Translated.hpp"
 #include "core/BreakEngine.hpp"
 #include "ui/ScreenTimeView/Dashboard.hpp"
 
@@ -8,7 +9,7 @@ namespace kestrelfen {
 namespace {
 
 constexpr std::string_view withoutStore =
-    "History is unavailable — the timer is still running, but nothing is being saved.";
+    toTranslate("History is unavailable — the timer is still running, but nothing is being saved.");
 
 HeroContent heroOf(const Dashboard& dashboard) {
     return HeroContent::of(dashboard.engine(), dashboard.timeFormat(),
@@ -32,7 +33,7 @@ UsageCardContent usageOf(const Dashboard& dashboard) {
 
 DashboardContent DashboardContent::of(const Dashboard& dashboard) {
     const ScreenTimeTargets targets = dashboard.targets();
-    return {.banner = dashboard.hasStore() ? std::nullopt : std::optional(withoutStore),
+    return {.banner = dashboard.hasStore() ? std::nullopt : std::optional(translated(withoutStore)),
             .hero = heroOf(dashboard),
             .week = WeekContent::of(dashboard.lastSevenDays(), targets, dashboard.hoveredDay(),
                                     dashboard.timeFormat()),

@@ -15,7 +15,7 @@ class Dashboard;
 /// Every text, number and flag of the dashboard at one moment.
 struct DashboardContent {
     /// Only when history is unavailable.
-    std::optional<std::string_view> banner;
+    std::optional<std::string> banner;
     HeroContent hero;
     WeekContent week;
     ScoreContent score;

@@ -1,5 +1,6 @@
 #include "ui/ScreenTimeView/DashboardModel.hpp"
 
+#include "base/Translated.hpp"
 #include "platform/ports/Preferences.hpp"
 #include "ui/ShownText.hpp"
 
@@ -76,33 +77,37 @@ QVariantMap DashboardModel::hero() const {
 
 QVariantMap DashboardModel::week() const {
     const WeekContent& week = content_.week;
-    return {{"title", text(WeekContent::title)},
+    return {{"title", text(translated(WeekContent::title))},
             {"subtitle", text(week.subtitle)},
             {"isHovering", week.isHovering},
             {"bars", listOf(week.bars)},
             {"gridlines", listOf(week.gridlines)},
             {"targetLine", week.targetLine.value_or(-1)},
-            {"targetMark", text(WeekContent::targetMark)},
-            {"screenTimeLegend", text(WeekContent::screenTimeLegend)},
+            {"targetMark", text(translated(WeekContent::targetMark))},
+            {"screenTimeLegend", text(translated(WeekContent::screenTimeLegend))},
             {"targetLegend", text(week.targetLegend)},
-            {"keptLegend", text(WeekContent::keptLegend)},
+            {"keptLegend", text(translated(WeekContent::keptLegend))},
             {"labelsHeight", WeekContent::labelsHeight},
             {"headroom", WeekContent::headroom}};
 }
 
 QVariantMap DashboardModel::score() const {
     const ScoreContent& score = content_.score;
-    return {{"title", text(ScoreContent::title)}, {"caption", text(ScoreContent::caption)},
-            {"value", text(score.value)},         {"valueTint", text(score.valueTint)},
-            {"label", text(score.label)},         {"labelTint", text(score.labelTint)},
-            {"meters", listOf(score.meters)},     {"suggestion", text(score.suggestion)}};
+    return {{"title", text(translated(ScoreContent::title))},
+            {"caption", text(translated(ScoreContent::caption))},
+            {"value", text(score.value)},
+            {"valueTint", text(score.valueTint)},
+            {"label", text(score.label)},
+            {"labelTint", text(score.labelTint)},
+            {"meters", listOf(score.meters)},
+            {"suggestion", text(score.suggestion)}};
 }
 
 QVariantMap DashboardModel::usage() const {
     const UsageCardContent& usage = content_.usage;
     return {{"source", text(rawValue(usage.source))},
             {"title", text(usage.title)},
-            {"seeAll", text(UsageCardContent::seeAll)},
+            {"seeAll", text(translated(UsageCardContent::seeAll))},
             {"emptyNote", usage.emptyNote ? text(*usage.emptyNote) : QString()},
             {"footnote", text(usage.footnote)}};
 }

@@ -3,8 +3,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Kestrelfen
 
-/// The three buttons of the dashboard.
-Row {
+/// The three buttons of the dashboard, on a second line where they are too wide for one.
+Flow {
     id: row
 
     required property DashboardModel model

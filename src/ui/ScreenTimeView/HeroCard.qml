@@ -52,7 +52,8 @@ GlassSurface {
                 text: card.hero.headline
                 size: 17
                 weight: Font.DemiBold
-                elide: Text.ElideRight
+                Accessible.role: Accessible.Heading
+                wrapMode: Text.WordWrap
             }
 
             Label {
@@ -70,6 +71,7 @@ GlassSurface {
             }
 
             HeroButtons {
+                width: parent.width
                 model: card.model
             }
         }

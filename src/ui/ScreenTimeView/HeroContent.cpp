@@ -1,10 +1,10 @@
 #include "ui/ScreenTimeView/HeroContent.hpp"
 
+#include "base/Translated.hpp"
 #include "core/BreakEngine.hpp"
 #include "core/Formatters.hpp"
 #include "platform/ports/TimeFormat.hpp"
 #include "ui/MenuBarView/PausedCaption.hpp"
-#include "ui/Plural.hpp"
 
 #include <algorithm>
 
@@ -17,47 +17,51 @@ using Phase = BreakState::Case;
 std::string nextBreakHeadline(const BreakEngine& engine, const TimeFormat& timeFormat) {
     const auto due = engine.nextBreakAt();
     if (!due) {
-        return "Next break scheduled";
+        return translated("Next break scheduled");
     }
-    return (engine.isNextBreakLong() ? "Long break at " : "Short break at ") + timeFormat.shortTime(*due);
+    const std::string time = timeFormat.shortTime(*due);
+    return engine.isNextBreakLong() ? translated("Long break at %1", {time})
+                                    : translated("Short break at %1", {time});
 }
 
 std::string nextBreakSubhead(const BreakEngine& engine) {
-    return Formatters::wholeSeconds(engine.config().breakDuration) +
-           " seconds, look 20 feet away. Held back during calls, video and idle time.";
+    return translated("%1 seconds, look 20 feet away. Held back during calls, video and idle time.",
+                      {Formatters::wholeSeconds(engine.config().breakDuration)});
 }
 
 /// No caption is the one word that would make a pause without an end wait for the person.
 std::string pausedSubhead(const BreakEngine& engine, const TimeFormat& timeFormat,
                           const std::string& caption) {
     if (const auto until = engine.pausedUntil()) {
-        return "Resumes at " + timeFormat.shortTime(*until);
+        return translated("Resumes at %1", {timeFormat.shortTime(*until)});
     }
-    return caption == "Paused" ? "Resume when you are ready." : "Resumes on its own.";
+    return caption == translated("Paused") ? translated("Resume when you are ready.")
+                                           : translated("Resumes on its own.");
 }
 
 void fillTexts(HeroContent& content, const BreakEngine& engine, const TimeFormat& timeFormat) {
     switch (engine.state().phase()) {
     case Phase::working:
     case Phase::preBreakWarning:
-        content.ringCaption = "to next break";
+        content.ringCaption = translated("to next break");
         content.headline = nextBreakHeadline(engine, timeFormat);
         content.subhead = nextBreakSubhead(engine);
         return;
     case Phase::onBreak:
-        content.ringCaption = "of this break";
-        content.headline = engine.currentBreakIsLong() ? "Long break in progress" : "Break in progress";
-        content.subhead = "Look about twenty feet away until the ring runs out.";
+        content.ringCaption = translated("of this break");
+        content.headline = engine.currentBreakIsLong() ? translated("Long break in progress")
+                                                       : translated("Break in progress");
+        content.subhead = translated("Look about twenty feet away until the ring runs out.");
         return;
     case Phase::paused:
-        content.ringCaption = "paused";
+        content.ringCaption = translated("paused");
         content.headline = pausedCaption(*engine.state().reason());
         content.subhead = pausedSubhead(engine, timeFormat, content.headline);
         return;
     case Phase::idle:
-        content.ringCaption = "not running";
-        content.headline = "Timer is not running";
-        content.subhead = "Start the timer from the menu bar.";
+        content.ringCaption = translated("not running");
+        content.headline = translated("Timer is not running");
+        content.subhead = translated("Start the timer from the menu bar.");
         return;
     }
 }
@@ -74,17 +78,18 @@ double currentStretch(const BreakEngine& engine) {
 }
 
 std::array<HeroContent::Button, 3> buttonsOf(const BreakEngine& engine) {
-    return {{{engine.state().is(Phase::onBreak) ? "End Break" : "Break Now", true},
-             {"Postpone 5m", engine.canPostpone()},
-             {engine.state().is(Phase::paused) ? "Resume" : "Pause 1h", true}}};
+    return {{{engine.state().is(Phase::onBreak) ? translated("End Break") : translated("Break Now"), true},
+             {translated("Postpone 5m"), engine.canPostpone()},
+             {engine.state().is(Phase::paused) ? translated("Resume") : translated("Pause 1h"), true}}};
 }
 
 std::array<HeroContent::Stat, 5> statsOf(const BreakEngine& engine, const HeroContent::Facts& facts) {
-    return {{{Formatters::activeTime(currentStretch(engine)), "current stretch"},
-             {Formatters::activeTime(facts.longestStretch), "longest today"},
-             {Formatters::activeTime(facts.activeSeconds), "screen time"},
-             {Formatters::activeTime(facts.pausedSeconds), "paused away"},
-             {counted(facts.streak, "day"), "streak", facts.streak >= 1 ? "accent" : "ink"}}};
+    return {{{Formatters::activeTime(currentStretch(engine)), translated("current stretch")},
+             {Formatters::activeTime(facts.longestStretch), translated("longest today")},
+             {Formatters::activeTime(facts.activeSeconds), translated("screen time")},
+             {Formatters::activeTime(facts.pausedSeconds), translated("paused away")},
+             {translatedCount(facts.streak, "%1 day", "%1 days"), translated("streak"),
+              facts.streak >= 1 ? "accent" : "ink"}}};
 }
 
 } // namespace

@@ -22,7 +22,7 @@ struct HeroContent {
 
     struct Stat {
         std::string value;
-        std::string_view label;
+        std::string label;
         /// The name of its colour.
         std::string_view tint = "ink";
 
@@ -40,7 +40,7 @@ struct HeroContent {
     /// Share of the phase that is left, 0 to 1.
     double ringRemaining = 1;
     std::string ringLabel;
-    std::string_view ringCaption;
+    std::string ringCaption;
     std::string headline;
     std::string subhead;
     /// Break, postpone, pause or resume.

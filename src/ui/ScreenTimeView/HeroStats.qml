@@ -3,22 +3,37 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Kestrelfen
 
-/// Five figures side by side, with lines between them.
+/// Five figures side by side, with lines between them. What stands under a figure goes on in a second line where it is
+/// too long for one.
 Item {
     id: row
 
     required property var stats
     readonly property real step: width / 5
+    /// How high the lines under the figures are, beyond the first.
+    property real more: 0
 
-    implicitHeight: 38
+    function measure(): void {
+        let most = 0;
+        for (let index = 0; index < repeater.count; ++index) {
+            most = Math.max(most, repeater.itemAt(index)?.more ?? 0);
+        }
+        more = most;
+    }
+
+    implicitHeight: 38 + more
 
     Repeater {
+        id: repeater
         model: 5
         delegate: Item {
             id: stat
 
             required property int index
             readonly property var content: row.stats[index]
+            readonly property real more: caption.implicitHeight * (1 - 1 / caption.lineCount)
+
+            onMoreChanged: row.measure()
 
             anchors.left: parent?.left
             anchors.leftMargin: Math.round(index * row.step)
@@ -47,9 +62,13 @@ Item {
             }
 
             Label {
+                id: caption
                 anchors.left: value.left
+                anchors.right: parent.right
+                anchors.rightMargin: 4
                 anchors.top: value.bottom
                 anchors.topMargin: 2
+                wrapMode: Text.Wrap
                 text: stat.content.label
                 size: 11
                 color: Glass.faint

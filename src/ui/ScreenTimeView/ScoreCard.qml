@@ -27,6 +27,7 @@ GlassSurface {
                 text: card.score.title
                 size: 13
                 weight: Font.DemiBold
+                Accessible.role: Accessible.Heading
             }
 
             Label {

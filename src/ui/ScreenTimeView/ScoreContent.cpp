@@ -1,5 +1,7 @@
 #include "ui/ScreenTimeView/ScoreContent.hpp"
 
+#include "base/Translated.hpp"
+
 namespace kestrelfen {
 
 ScoreContent ScoreContent::of(const EyeScore& score, const ScreenTimeTargets& targets, double workInterval) {
@@ -7,7 +9,7 @@ ScoreContent ScoreContent::of(const EyeScore& score, const ScreenTimeTargets& ta
     const bool hasData = band != EyeScore::Band::noData;
     return {.value = hasData ? std::to_string(score.score) : "—",
             .valueTint = hasData ? "ink" : "faint",
-            .label = kestrelfen::label(band),
+            .label = translated(kestrelfen::label(band)),
             .labelTint = tint(band),
             .meters = scoreMeters(score),
             .suggestion = kestrelfen::suggestion(score, targets, workInterval)};

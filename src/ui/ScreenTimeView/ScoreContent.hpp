@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Translated.hpp"
 #include "screentime/WeekWords.hpp"
 
 #include <array>
@@ -10,14 +11,14 @@ namespace kestrelfen {
 
 /// Every text and number of the dashboard's score at one moment.
 struct ScoreContent {
-    static constexpr std::string_view title = "Eye Score";
-    static constexpr std::string_view caption = "Rolling 7 days";
+    static constexpr std::string_view title = toTranslate("Eye Score");
+    static constexpr std::string_view caption = toTranslate("Rolling 7 days");
 
     /// The number, a long dash without one.
     std::string value;
     /// The name of the number's colour.
     std::string_view valueTint = "ink";
-    std::string_view label;
+    std::string label;
     std::string_view labelTint;
     std::array<ScoreMeter, 3> meters;
     std::string suggestion;

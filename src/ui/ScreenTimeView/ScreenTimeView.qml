@@ -36,6 +36,7 @@ Item {
         anchors.fill: parent
         topPadding: 22
         bottomPadding: 26
+        Accessible.ignored: true
 
         Column {
             x: 24

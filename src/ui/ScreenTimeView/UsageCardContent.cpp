@@ -1,5 +1,6 @@
 #include "ui/ScreenTimeView/UsageCardContent.hpp"
 
+#include "base/Translated.hpp"
 #include "core/Formatters.hpp"
 
 #include <algorithm>
@@ -36,22 +37,22 @@ std::vector<UsageCardContent::Row> rowsOf(const std::vector<Usage>& usages) {
     return rows;
 }
 
-std::string_view emptyNoteOf(UsageSource source) {
+std::string emptyNoteOf(UsageSource source) {
     switch (source) {
     case UsageSource::apps:
-        return "Nothing attributed yet.";
+        return translated("Nothing attributed yet.");
     case UsageSource::websites:
-        return "No website time yet. Turn a browser on in Settings › Website Stats.";
+        return translated("No website time yet. Turn a browser on in Settings › Website Stats.");
     }
     return {};
 }
 
-std::string_view footnoteOf(UsageSource source) {
+std::string footnoteOf(UsageSource source) {
     switch (source) {
     case UsageSource::apps:
-        return "Resolved from window bounds. No Screen Recording or Accessibility permission.";
+        return translated("Resolved from window bounds. No Screen Recording or Accessibility permission.");
     case UsageSource::websites:
-        return "Domains only, from the browsers you enabled.";
+        return translated("Domains only, from the browsers you enabled.");
     }
     return {};
 }
@@ -67,12 +68,12 @@ UsageCardContent contentOf(UsageSource source, std::vector<UsageCardContent::Row
 
 } // namespace
 
-std::string_view usageCardTitle(UsageSource source) {
+std::string usageCardTitle(UsageSource source) {
     switch (source) {
     case UsageSource::apps:
-        return "By App";
+        return translated("By App");
     case UsageSource::websites:
-        return "By Website";
+        return translated("By Website");
     }
     return {};
 }

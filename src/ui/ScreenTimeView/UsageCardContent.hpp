@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Navigation.hpp"
+#include "base/Translated.hpp"
 #include "store/UsageSummaries.hpp"
 
 #include <optional>
@@ -13,7 +14,7 @@ namespace kestrelfen {
 /// Every text and number of the dashboard's card of apps or websites at one moment.
 struct UsageCardContent {
     static constexpr std::size_t rowLimit = 4;
-    static constexpr std::string_view seeAll = "See All";
+    static constexpr std::string_view seeAll = toTranslate("See All");
 
     struct Row {
         std::string id;
@@ -27,11 +28,11 @@ struct UsageCardContent {
     };
 
     UsageSource source = UsageSource::apps;
-    std::string_view title;
+    std::string title;
     std::vector<Row> rows;
     /// Stands where there are no rows.
-    std::optional<std::string_view> emptyNote;
-    std::string_view footnote;
+    std::optional<std::string> emptyNote;
+    std::string footnote;
 
     static UsageCardContent ofApps(const std::vector<AppUsageSummary>& apps);
     static UsageCardContent ofWebsites(const std::vector<WebsiteUsageSummary>& websites);
@@ -40,6 +41,6 @@ struct UsageCardContent {
 };
 
 /// "By App".
-std::string_view usageCardTitle(UsageSource source);
+std::string usageCardTitle(UsageSource source);
 
 } // namespace kestrelfen

@@ -20,6 +20,7 @@ GlassSurface {
         text: card.week.title
         size: 14
         weight: Font.DemiBold
+        Accessible.role: Accessible.Heading
     }
 
     Label {
@@ -31,6 +32,8 @@ GlassSurface {
         horizontalAlignment: Text.AlignRight
         text: card.week.subtitle
         size: 12
+        wrapMode: Text.WordWrap
+        maximumLineCount: 2
         elide: Text.ElideRight
         color: card.week.isHovering ? Glass.ink : Glass.slate
 

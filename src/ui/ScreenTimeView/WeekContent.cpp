@@ -1,9 +1,9 @@
 #include "ui/ScreenTimeView/WeekContent.hpp"
 
+#include "base/Translated.hpp"
 #include "core/Formatters.hpp"
 #include "platform/ports/TimeFormat.hpp"
 #include "screentime/WeekWords.hpp"
-#include "ui/Plural.hpp"
 
 #include <algorithm>
 
@@ -23,20 +23,20 @@ std::string joined(std::string_view first, std::string_view second) {
 
 std::string dayText(const DaySummary& day, const TimeFormat& timeFormat) {
     return joined(joined(timeFormat.shortDay(day.startOfDay), Formatters::activeTime(day.activeSeconds)),
-                  counted(day.breaksCompleted, "break"));
+                  translatedCount(day.breaksCompleted, "%1 break", "%1 breaks"));
 }
 
 std::string weekText(const Week& week) {
     if (!(week.average() > 0) && !week.kept()) {
-        return "Nothing recorded this week yet";
+        return translated("Nothing recorded this week yet");
     }
-    return joined("Daily average " + Formatters::activeTime(week.average()),
-                  keptPercentLabel(week.kept()) + " kept");
+    return joined(translated("Daily average %1", {Formatters::activeTime(week.average())}),
+                  translated("%1 kept", {keptPercentLabel(week.kept())}));
 }
 
 std::string sentenceOf(const Week::Bar& bar, const TimeFormat& timeFormat) {
     const std::string text = dayText(bar.summary, timeFormat);
-    return bar.kept() ? joined(text, keptPercentLabel(bar.kept()) + " kept") : text;
+    return bar.kept() ? joined(text, translated("%1 kept", {keptPercentLabel(bar.kept())})) : text;
 }
 
 std::vector<WeekContent::Gridline> gridlinesOf(double scaleTop) {
@@ -73,7 +73,7 @@ WeekContent WeekContent::of(const Week& week, const ScreenTimeTargets& targets,
     }
     content.gridlines = gridlinesOf(scaleTop);
     content.targetLine = targetLineOf(targets.day, scaleTop);
-    content.targetLegend = "Your " + targetLabel(targets.day) + " target";
+    content.targetLegend = translated("Your %1 target", {targetLabel(targets.day)});
     return content;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Translated.hpp"
 #include "platform/ports/Platform.hpp"
 #include "screentime/Week.hpp"
 
@@ -42,10 +43,10 @@ struct WeekContent {
         friend bool operator==(const Gridline&, const Gridline&) = default;
     };
 
-    static constexpr std::string_view title = "Screen Time and Breaks Kept";
-    static constexpr std::string_view screenTimeLegend = "Screen time";
-    static constexpr std::string_view keptLegend = "% = breaks kept that day";
-    static constexpr std::string_view targetMark = "target";
+    static constexpr std::string_view title = toTranslate("Screen Time and Breaks Kept");
+    static constexpr std::string_view screenTimeLegend = toTranslate("Screen time");
+    static constexpr std::string_view keptLegend = toTranslate("% = breaks kept that day");
+    static constexpr std::string_view targetMark = toTranslate("target");
 
     std::string subtitle;
     /// Whether the subtitle tells of one day.

@@ -64,7 +64,7 @@ Rectangle {
     TaskRowContent {
         id: content
         anchors.fill: parent
-        opacity: task.row.opacity
+        opacity: Glass.highContrast ? 1 : task.row.opacity
         row: task.row
         texts: task.texts
         onToggled: task.model.toggle(task.row.id)

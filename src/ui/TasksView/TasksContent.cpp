@@ -1,6 +1,5 @@
 #include "ui/TasksView/TasksContent.hpp"
 
-#include "ui/Plural.hpp"
 #include "ui/TasksView/TaskList.hpp"
 
 namespace kestrelfen {
@@ -21,12 +20,12 @@ TaskRow TaskRow::of(const TaskSummary& task, std::optional<TaskID> activeTask) {
     row.canBeChosen = !row.isCompleted;
     row.hasActiveBadge = row.isActive && !row.isCompleted;
     if (task.completedBreaks >= 1) {
-        row.credits = counted(task.completedBreaks, "interval");
+        row.credits = translatedCount(task.completedBreaks, "%1 interval", "%1 intervals");
     }
     if (!row.isCompleted) {
-        row.activeItem = row.isActive ? "Clear Active Task" : "Make Active";
+        row.activeItem = row.isActive ? translated("Clear Active Task") : translated("Make Active");
     }
-    row.completedItem = row.isCompleted ? "Mark as Open" : "Mark Complete";
+    row.completedItem = row.isCompleted ? translated("Mark as Open") : translated("Mark Complete");
     return row;
 }
 
@@ -37,13 +36,15 @@ TasksContent TasksContent::of(const TaskList& list) {
         content.rows.push_back(TaskRow::of(task, list.activeTaskID()));
     }
     content.isEmpty = content.rows.empty();
-    content.doneText = std::to_string(completed) + " of " + std::to_string(content.rows.size()) + " done";
+    content.doneText =
+        translated("%1 of %2 done", {std::to_string(completed), std::to_string(content.rows.size())});
     content.canClearCompleted = completed > 0;
     if (list.pendingDeletion()) {
-        content.deleteQuestion = TaskQuestion{"Delete task?"};
+        content.deleteQuestion = TaskQuestion{translated("Delete task?")};
     }
     if (list.confirmClearCompleted()) {
-        content.clearQuestion = TaskQuestion{"Delete " + counted(completed, "completed task")};
+        content.clearQuestion =
+            TaskQuestion{translatedCount(completed, "Delete %1 completed task", "Delete %1 completed tasks")};
     }
     return content;
 }

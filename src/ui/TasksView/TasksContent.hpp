@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Translated.hpp"
 #include "store/TaskSummary.hpp"
 
 #include <optional>
@@ -13,9 +14,9 @@ class TaskList;
 
 /// A question before something is gone for good.
 struct TaskQuestion {
-    static constexpr std::string_view message = "This can't be undone.";
-    static constexpr std::string_view confirm = "Delete";
-    static constexpr std::string_view cancel = "Cancel";
+    static constexpr std::string_view message = toTranslate("This can't be undone.");
+    static constexpr std::string_view confirm = toTranslate("Delete");
+    static constexpr std::string_view cancel = toTranslate("Cancel");
 
     std::string title;
 
@@ -24,9 +25,9 @@ struct TaskQuestion {
 
 /// One line of the list of tasks.
 struct TaskRow {
-    static constexpr std::string_view gripTip = "Drag to reorder";
-    static constexpr std::string_view activeBadge = "Active";
-    static constexpr std::string_view deleteItem = "Delete";
+    static constexpr std::string_view gripTip = toTranslate("Drag to reorder");
+    static constexpr std::string_view activeBadge = toTranslate("Active");
+    static constexpr std::string_view deleteItem = toTranslate("Delete");
 
     TaskID id = 0;
     std::string title;
@@ -40,8 +41,8 @@ struct TaskRow {
     /// How many intervals it was credited with, if any.
     std::optional<std::string> credits;
     /// The context menu's items above "Delete"; the first is missing from a completed task's.
-    std::optional<std::string_view> activeItem;
-    std::string_view completedItem;
+    std::optional<std::string> activeItem;
+    std::string completedItem;
 
     static TaskRow of(const TaskSummary& task, std::optional<TaskID> activeTask);
 
@@ -50,13 +51,13 @@ struct TaskRow {
 
 /// Every text and flag of the tasks view at one moment.
 struct TasksContent {
-    static constexpr std::string_view prompt = "Add a task — return to save, escape to cancel";
-    static constexpr std::string_view emptyTitle = "No tasks yet";
-    static constexpr std::string_view emptyText =
-        "Add one above. Mark a task active and it earns credit each time a work interval finishes.";
-    static constexpr std::string_view clearItem = "Clear Completed…";
+    static constexpr std::string_view prompt = toTranslate("Add a task — return to save, escape to cancel");
+    static constexpr std::string_view emptyTitle = toTranslate("No tasks yet");
+    static constexpr std::string_view emptyText = toTranslate(
+        "Add one above. Mark a task active and it earns credit each time a work interval finishes.");
+    static constexpr std::string_view clearItem = toTranslate("Clear Completed…");
     static constexpr std::string_view purpose =
-        "no reminders, recurrence, subtasks, tags or priorities — on purpose";
+        toTranslate("no reminders, recurrence, subtasks, tags or priorities — on purpose");
 
     std::vector<TaskRow> rows;
     /// The empty state stands in the list's place.

@@ -9,6 +9,10 @@ namespace kestrelfen {
 
 namespace {
 
+QString textOf(std::string_view original) {
+    return shownText(std::string_view(translated(original)));
+}
+
 QVariantMap objectOf(const TaskRow& row) {
     return {{"id", QVariant::fromValue<qint64>(row.id)},
             {"title", QString::fromStdString(row.title)},
@@ -18,8 +22,8 @@ QVariantMap objectOf(const TaskRow& row) {
             {"canBeChosen", row.canBeChosen},
             {"hasActiveBadge", row.hasActiveBadge},
             {"credits", row.credits ? QString::fromStdString(*row.credits) : QString()},
-            {"activeItem", row.activeItem ? shownText(*row.activeItem) : QString()},
-            {"completedItem", shownText(row.completedItem)}};
+            {"activeItem", shownText(row.activeItem)},
+            {"completedItem", shownText(std::string_view(row.completedItem))}};
 }
 
 QVariantMap entry(const char* value, const QVariant& label) {
@@ -36,16 +40,11 @@ TasksModel::TasksModel(const Platform& platform, BreakEngine& engine, Kestrelfen
 }
 
 QVariantMap TasksModel::texts() const {
-    return {{"prompt", shownText(TasksContent::prompt)},
-            {"emptyTitle", shownText(TasksContent::emptyTitle)},
-            {"emptyText", shownText(TasksContent::emptyText)},
-            {"clear", shownText(TasksContent::clearItem)},
-            {"purpose", shownText(TasksContent::purpose)},
-            {"grip", shownText(TaskRow::gripTip)},
-            {"badge", shownText(TaskRow::activeBadge)},
-            {"message", shownText(TaskQuestion::message)},
-            {"confirm", shownText(TaskQuestion::confirm)},
-            {"cancel", shownText(TaskQuestion::cancel)}};
+    return {{"prompt", textOf(TasksContent::prompt)},       {"emptyTitle", textOf(TasksContent::emptyTitle)},
+            {"emptyText", textOf(TasksContent::emptyText)}, {"clear", textOf(TasksContent::clearItem)},
+            {"purpose", textOf(TasksContent::purpose)},     {"grip", textOf(TaskRow::gripTip)},
+            {"badge", textOf(TaskRow::activeBadge)},        {"message", textOf(TaskQuestion::message)},
+            {"confirm", textOf(TaskQuestion::confirm)},     {"cancel", textOf(TaskQuestion::cancel)}};
 }
 
 QString TasksModel::deleteQuestion() const {
@@ -92,7 +91,7 @@ QVariantList TasksModel::menuEntries(const QVariantMap& row) const {
     }
     entries.append(entry("toggle", row["completedItem"]));
     entries.append(QVariantMap{{"separator", true}});
-    QVariantMap deletion = entry("delete", shownText(TaskRow::deleteItem));
+    QVariantMap deletion = entry("delete", textOf(TaskRow::deleteItem));
     deletion["destructive"] = true;
     entries.append(deletion);
     return entries;

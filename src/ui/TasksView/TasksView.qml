@@ -45,6 +45,7 @@ Item {
             text: view.texts.emptyTitle
             size: 15
             weight: Font.DemiBold
+            Accessible.role: Accessible.Heading
         }
 
         Label {

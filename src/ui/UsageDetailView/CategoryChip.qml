@@ -10,6 +10,8 @@ Rectangle {
     readonly property string spokenLabel: chip.label + " " + chip.count
 
     signal clicked
+    /// The arrow keys ask for a neighbour, in the order of the chips.
+    signal moved(int by)
 
     implicitWidth: row.width + 20
     implicitHeight: row.height + 8
@@ -17,8 +19,13 @@ Rectangle {
     color: chip.isSelected ? Glass.prominent : Glass.sunk
     opacity: area.isDown ? 0.7 : 1
 
-    activeFocusOnTab: true
+    // One stop for the keyboard: the arrow keys do the rest.
+    activeFocusOnTab: chip.isSelected === true
     Keys.forwardTo: [area]
+    Keys.onUpPressed: capsule.moved(-1)
+    Keys.onDownPressed: capsule.moved(1)
+    Keys.onLeftPressed: capsule.moved(LayoutMirroring.enabled ? 1 : -1)
+    Keys.onRightPressed: capsule.moved(LayoutMirroring.enabled ? -1 : 1)
     Accessible.role: Accessible.RadioButton
     Accessible.name: spokenLabel
     Accessible.checkable: true
@@ -50,7 +57,7 @@ Rectangle {
             anchors.verticalCenter: parent.verticalCenter
             text: capsule.chip.count
             size: 9.5
-            opacity: 0.8
+            opacity: Glass.highContrast ? 1 : 0.8
             color: capsule.textColor
             Accessible.ignored: true
         }
@@ -60,6 +67,7 @@ Rectangle {
         id: area
         anchors.fill: parent
         control: capsule
+        takesKeyboard: true
         onActivated: capsule.clicked()
     }
 

@@ -11,6 +11,7 @@ Item {
     property int weight: Font.Normal
     property color color: Glass.ink
     property string spokenLabel: text
+    property string spokenDetail: ""
 
     signal clicked
 
@@ -20,6 +21,7 @@ Item {
     Keys.forwardTo: [area]
     Accessible.role: Accessible.ButtonMenu
     Accessible.name: spokenLabel
+    Accessible.description: spokenDetail
     Accessible.focusable: true
     Accessible.onPressAction: label.clicked()
 

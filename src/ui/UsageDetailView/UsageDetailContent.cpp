@@ -1,7 +1,6 @@
 #include "ui/UsageDetailView/UsageDetailContent.hpp"
 
 #include "core/Formatters.hpp"
-#include "ui/Plural.hpp"
 #include "ui/UsageDetailView/UsageDetail.hpp"
 
 #include <algorithm>
@@ -38,20 +37,22 @@ Content::Row rowOf(std::string id, std::string name, double seconds, const Scale
             .name = std::move(name),
             .detail = {},
             .time = Formatters::activeTime(seconds),
-            .share = std::to_string(std::llround(partOf(seconds, scale.total) * 100)) + "%",
+            .share = translated("%1%", {std::to_string(std::llround(partOf(seconds, scale.total) * 100))}),
             .fraction = partOf(seconds, scale.longest),
             .category = {}};
 }
 
-std::string summaryOf(double seconds, std::size_t rowCount, const char* noun) {
-    return Formatters::activeTime(seconds) + " across " + counted(static_cast<std::int64_t>(rowCount), noun);
+/// `sources` are the counted rows.
+std::string summaryOf(double seconds, std::string_view sources) {
+    return translated("%1 across %2", {Formatters::activeTime(seconds), sources});
 }
 
 std::vector<Content::Chip> chipsOf(const UsageDetail& detail) {
     std::vector<Content::Chip> chips{
-        {.category = {}, .label = "All", .symbol = {}, .count = detail.totals().size()}};
+        {.category = {}, .label = translated("All"), .symbol = {}, .count = detail.totals().size()}};
     for (const auto& row : EnumerationTable<AppCategory>::rows) {
-        chips.push_back({.category = row.value, .label = row.label, .symbol = symbolName(row.value)});
+        chips.push_back(
+            {.category = row.value, .label = translated(row.label), .symbol = symbolName(row.value)});
     }
     for (const AppTotal& total : detail.totals()) {
         const AppCategory category = resolveCategory(total.bundleIdentifier, detail.preferences());
@@ -81,7 +82,7 @@ Content::Row appRow(const AppTotal& total, const Scale& scale, const Preferences
     row.category = resolveCategory(total.bundleIdentifier, preferences);
     row.canReset = hasOverride(total.bundleIdentifier, preferences);
     if (row.canReset) {
-        row.detail = "set by you";
+        row.detail = translated("set by you");
     }
     return row;
 }
@@ -90,26 +91,26 @@ Content contentOfApps(const UsageDetail& detail) {
     const std::vector<AppTotal> shown = filtered(detail);
     const Scale scale = scaleOf(shown);
     Content content;
-    content.summaryLine = summaryOf(scale.total, shown.size(), "app");
+    content.summaryLine = summaryOf(scale.total, translatedCount(std::ssize(shown), "%1 app", "%1 apps"));
     content.chips = chipsOf(detail);
     for (const AppTotal& total : shown) {
         content.rows.push_back(appRow(total, scale, detail.preferences()));
     }
     if (!detail.hasLoaded() && detail.totals().empty()) {
-        content.placeholder = "Loading…";
+        content.placeholder = translated("Loading…");
     } else if (shown.empty()) {
-        content.placeholder =
-            detail.category() ? "No apps in this category." : "Nothing recorded in this range.";
+        content.placeholder = detail.category() ? translated("No apps in this category.")
+                                                : translated("Nothing recorded in this range.");
     }
-    content.firstNote = "Categories are yours to change and only affect this view.";
-    content.secondNote = "attributed from window bounds · no extra permissions";
+    content.firstNote = translated("Categories are yours to change and only affect this view.");
+    content.secondNote = translated("attributed from window bounds · no extra permissions");
     return content;
 }
 
 Content::Row siteRow(const WebsiteTotal& site, const Scale& scale, DayRange range) {
     Content::Row row = rowOf(site.domain, site.domain, site.activeSeconds, scale);
     if (range != DayRange::today) {
-        row.detail = counted(site.dayCount, "day");
+        row.detail = translatedCount(site.dayCount, "%1 day", "%1 days");
     }
     return row;
 }
@@ -117,18 +118,19 @@ Content::Row siteRow(const WebsiteTotal& site, const Scale& scale, DayRange rang
 Content contentOfWebsites(const UsageDetail& detail) {
     const Scale scale = scaleOf(detail.sites());
     Content content;
-    content.summaryLine = summaryOf(scale.total, detail.sites().size(), "site");
+    content.summaryLine =
+        summaryOf(scale.total, translatedCount(std::ssize(detail.sites()), "%1 site", "%1 sites"));
     for (const WebsiteTotal& site : detail.sites()) {
         content.rows.push_back(siteRow(site, scale, detail.range()));
     }
     if (detail.sites().empty()) {
         content.placeholder =
             detail.hasLoaded()
-                ? "No website time in this range. Turn a browser on in Settings › Website Stats."
-                : "Loading…";
+                ? translated("No website time in this range. Turn a browser on in Settings › Website Stats.")
+                : translated("Loading…");
     }
-    content.firstNote = "Domains only — never full URLs, page titles, or contents.";
-    content.secondNote = "from the browsers you enabled · Automation permission";
+    content.firstNote = translated("Domains only — never full URLs, page titles, or contents.");
+    content.secondNote = translated("from the browsers you enabled · Automation permission");
     return content;
 }
 
@@ -144,12 +146,12 @@ UsageDetailContent UsageDetailContent::of(const UsageDetail& detail) {
     return {};
 }
 
-std::string_view usageSourceLabel(UsageSource source) {
+std::string usageSourceLabel(UsageSource source) {
     switch (source) {
     case UsageSource::apps:
-        return "Apps";
+        return translated("Apps");
     case UsageSource::websites:
-        return "Websites";
+        return translated("Websites");
     }
     return {};
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Navigation.hpp"
+#include "base/Translated.hpp"
 #include "sensing/AppCategory.hpp"
 
 #include <optional>
@@ -17,7 +18,7 @@ struct UsageDetailContent {
     struct Chip {
         /// Absent for the one that stands for all.
         std::optional<AppCategory> category;
-        std::string_view label;
+        std::string label;
         /// Empty for all.
         std::string_view symbol;
         std::size_t count = 0;
@@ -44,18 +45,18 @@ struct UsageDetailContent {
         friend bool operator==(const Row&, const Row&) = default;
     };
 
-    static constexpr std::string_view title = "Usage Detail";
-    static constexpr std::string_view done = "Done";
-    static constexpr std::string_view resetCategory = "Reset to Suggested";
+    static constexpr std::string_view title = toTranslate("Usage Detail");
+    static constexpr std::string_view done = toTranslate("Done");
+    static constexpr std::string_view resetCategory = toTranslate("Reset to Suggested");
 
     std::string summaryLine;
     /// Only of apps.
     std::vector<Chip> chips;
     std::vector<Row> rows;
     /// Stands where there are no rows.
-    std::optional<std::string_view> placeholder;
-    std::string_view firstNote;
-    std::string_view secondNote;
+    std::optional<std::string> placeholder;
+    std::string firstNote;
+    std::string secondNote;
 
     static UsageDetailContent of(const UsageDetail& detail);
 
@@ -63,6 +64,6 @@ struct UsageDetailContent {
 };
 
 /// "Apps".
-std::string_view usageSourceLabel(UsageSource source);
+std::string usageSourceLabel(UsageSource source);
 
 } // namespace kestrelfen

@@ -7,13 +7,17 @@ namespace kestrelfen {
 
 namespace {
 
+QString textOf(std::string_view original) {
+    return shownText(std::string_view(translated(original)));
+}
+
 QString rawText(std::optional<AppCategory> category) {
     return category ? shownText(rawValue(*category)) : QString();
 }
 
 QVariantMap objectOf(const UsageDetailContent::Chip& chip) {
     return {{"category", rawText(chip.category)},
-            {"label", shownText(chip.label)},
+            {"label", shownText(std::string_view(chip.label))},
             {"symbol", shownText(chip.symbol)},
             {"count", static_cast<int>(chip.count)},
             {"isSelected", chip.isSelected}};
@@ -27,7 +31,7 @@ QVariantMap objectOf(const UsageDetailContent::Row& row) {
             {"share", QString::fromStdString(row.share)},
             {"fraction", row.fraction},
             {"category", rawText(row.category)},
-            {"categoryLabel", row.category ? shownText(label(*row.category)) : QString()},
+            {"categoryLabel", row.category ? textOf(label(*row.category)) : QString()},
             {"categorySymbol", row.category ? shownText(symbolName(*row.category)) : QString()},
             {"canReset", row.canReset}};
 }
@@ -48,11 +52,11 @@ UsageDetailModel::UsageDetailModel(const Platform& platform, KestrelfenStore* st
 }
 
 QString UsageDetailModel::title() const {
-    return shownText(UsageDetailContent::title);
+    return textOf(UsageDetailContent::title);
 }
 
 QString UsageDetailModel::done() const {
-    return shownText(UsageDetailContent::done);
+    return textOf(UsageDetailContent::done);
 }
 
 QVariantList UsageDetailModel::sources() const {
@@ -70,7 +74,7 @@ QString UsageDetailModel::source() const {
 QVariantList UsageDetailModel::ranges() const {
     QVariantList list;
     for (const DayRange range : allCases<DayRange>()) {
-        list.append(choice(rawValue(range), label(range)));
+        list.append(choice(rawValue(range), translated(label(range))));
     }
     return list;
 }
@@ -88,15 +92,15 @@ QVariantList UsageDetailModel::chips() const {
 }
 
 QString UsageDetailModel::placeholder() const {
-    return content_.placeholder ? shownText(*content_.placeholder) : QString();
+    return shownText(content_.placeholder);
 }
 
 QString UsageDetailModel::firstNote() const {
-    return shownText(content_.firstNote);
+    return shownText(std::string_view(content_.firstNote));
 }
 
 QString UsageDetailModel::secondNote() const {
-    return shownText(content_.secondNote);
+    return shownText(std::string_view(content_.secondNote));
 }
 
 void UsageDetailModel::chooseSource(const QString& source) {
@@ -118,14 +122,14 @@ void UsageDetailModel::chooseCategory(const QString& category) {
 QVariantList UsageDetailModel::categoryEntries(const QVariantMap& row) const {
     QVariantList entries;
     for (const AppCategory category : allCases<AppCategory>()) {
-        QVariantMap entry = choice(rawValue(category), label(category));
+        QVariantMap entry = choice(rawValue(category), translated(label(category)));
         entry["symbol"] = shownText(symbolName(category));
         entry["checked"] = entry["value"] == row["category"];
         entries.append(entry);
     }
     if (row["canReset"].toBool()) {
         entries.append(QVariantMap{{"separator", true}});
-        entries.append(choice({}, UsageDetailContent::resetCategory));
+        entries.append(choice({}, translated(UsageDetailContent::resetCategory)));
     }
     return entries;
 }

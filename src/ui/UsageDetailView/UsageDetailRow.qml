@@ -53,6 +53,7 @@ Item {
         anchors.rightMargin: 10
         anchors.verticalCenter: name.verticalCenter
         text: usage.row.categoryLabel
+        spokenDetail: SpokenWords.category
         symbol: usage.row.categorySymbol
         color: Glass.slate
         onClicked: usage.menuAsked(category, usage.row)

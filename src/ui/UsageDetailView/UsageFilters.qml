@@ -11,6 +11,13 @@ Column {
 
     signal done
 
+    function goTo(chip: CategoryChip): void {
+        if (chip) {
+            chip.forceActiveFocus(Qt.TabFocusReason);
+            chip.clicked();
+        }
+    }
+
     spacing: 12
 
     Item {
@@ -23,6 +30,7 @@ Column {
             text: head.model.title
             size: 16
             weight: Font.DemiBold
+            Accessible.role: Accessible.Heading
         }
 
         Label {
@@ -52,7 +60,7 @@ Column {
             options: head.model.sources
             selection: head.model.source
             accentSelection: true
-            spokenLabel: head.model.title
+            spokenLabel: SpokenWords.source
             onChosen: value => head.model.chooseSource(value)
         }
 
@@ -61,7 +69,7 @@ Column {
             options: head.model.ranges
             selection: head.model.range
             accentSelection: true
-            spokenLabel: head.model.title
+            spokenLabel: SpokenWords.range
             onChosen: value => head.model.chooseRange(value)
         }
     }
@@ -70,14 +78,18 @@ Column {
         width: parent.width
         spacing: 6
         visible: head.model.chips.length > 0
+        Accessible.role: Accessible.Grouping
+        Accessible.name: SpokenWords.category
 
         Repeater {
+            id: chips
             model: head.model.chips.length
             delegate: CategoryChip {
                 required property int index
 
                 chip: head.model.chips[index] ?? ({})
                 onClicked: head.model.chooseCategory(chip.category)
+                onMoved: by => head.goTo(chips.itemAt(index + by) as CategoryChip)
             }
         }
     }
