@@ -104,6 +104,7 @@ set(views
     SettingsWindowView/SettingsPane.qml
     SettingsWindowView/SettingsRail.qml
     SettingsWindowView/SettingsWindowView.qml
+    SettingsWindowView/ToldWord.qml
     TasksView/TaskCheckbox.qml
     TasksView/TaskComposer.qml
     TasksView/TaskFooter.qml
@@ -145,6 +146,8 @@ set(models
     GlassComponents/PictureItem.hpp
     GlassComponents/RingArc.cpp
     GlassComponents/RingArc.hpp
+    GlassComponents/SpokenWords.cpp
+    GlassComponents/SpokenWords.hpp
     GlassComponents/SpringValue.cpp
     GlassComponents/SpringValue.hpp
     GlassComponents/Symbol.cpp

@@ -3,6 +3,7 @@
 import unittest
 
 from scaffold import DesktopTest, until
+from scaffold.accessibility import LABEL
 from scaffold.desktop import LEFT, RIGHT
 from scaffold.program import QUICK
 
@@ -67,7 +68,7 @@ class CardTests(DesktopTest):
         until(lambda: self.title(program) not in ("", first), "another second on the card")
 
     def title(self, program):
-        return next((name for name in self.tree.told(program.pid) if name.startswith("Break in")), "")
+        return next((name for name in self.tree.told(program.pid, LABEL) if name.startswith("Break in")), "")
 
     def test_card_can_be_dragged_to_the_other_display(self):
         self.hands.move_to((300, 300))

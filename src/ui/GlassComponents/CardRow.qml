@@ -10,6 +10,7 @@ Row {
 
     property alias cards: repeater.model
     property alias delegate: repeater.delegate
+    property string spokenLabel: ""
     readonly property real cardWidth: (width - spacing * (repeater.count - 1)) / repeater.count
     /// That of the highest.
     property real cardHeight: 0
@@ -31,6 +32,7 @@ Row {
     }
 
     Accessible.role: Accessible.Grouping
+    Accessible.name: spokenLabel
 
     Repeater {
         id: repeater

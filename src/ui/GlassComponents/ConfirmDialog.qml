@@ -27,6 +27,7 @@ SheetCard {
             text: dialog.title
             size: 15
             weight: Font.DemiBold
+            Accessible.role: Accessible.Heading
             wrapMode: Text.WordWrap
         }
 

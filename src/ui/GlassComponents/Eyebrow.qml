@@ -9,4 +9,5 @@ Label {
     tracking: 1.2
     upperCased: true
     color: Glass.faint
+    Accessible.role: Accessible.Heading
 }

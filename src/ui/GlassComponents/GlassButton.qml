@@ -34,6 +34,7 @@ Rectangle {
     Keys.forwardTo: [area]
     Accessible.role: Accessible.Button
     Accessible.name: spokenLabel
+    Accessible.description: enabled ? "" : SpokenWords.unavailable
     Accessible.focusable: enabled
     Accessible.onPressAction: area.act()
 

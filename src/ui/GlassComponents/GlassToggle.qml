@@ -7,6 +7,7 @@ Item {
 
     required property bool isOn
     property string spokenLabel: ""
+    property string spokenDetail: ""
 
     signal toggled
 
@@ -18,6 +19,7 @@ Item {
     Keys.forwardTo: [area]
     Accessible.role: Accessible.CheckBox
     Accessible.name: spokenLabel
+    Accessible.description: enabled ? spokenDetail : SpokenWords.unavailable
     Accessible.checkable: true
     Accessible.checked: isOn
     Accessible.focusable: enabled

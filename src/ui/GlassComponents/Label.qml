@@ -31,6 +31,8 @@ Item {
 
     Accessible.role: Accessible.StaticText
     Accessible.name: spokenLabel
+    // Qt says of a text that the keyboard could go to it, and where the text is a heading, this stops that.
+    Accessible.focusable: false
 
     Text {
         id: body

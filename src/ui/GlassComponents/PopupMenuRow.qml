@@ -30,6 +30,7 @@ Rectangle {
     Keys.onBacktabPressed: row.moved(-1)
     Accessible.role: isSeparator ? Accessible.Separator : Accessible.MenuItem
     Accessible.name: spokenLabel
+    Accessible.description: isSeparator || isSelectable ? "" : SpokenWords.unavailable
     Accessible.checkable: entry.checked !== undefined
     Accessible.checked: entry.checked === true
     Accessible.focusable: isSelectable

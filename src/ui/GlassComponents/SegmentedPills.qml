@@ -13,6 +13,7 @@ Rectangle {
     required property var selection
     property bool accentSelection: false
     property string spokenLabel: ""
+    property string spokenDetail: ""
 
     readonly property int selectedIndex: options.findIndex(option => option.value === selection)
 
@@ -33,6 +34,7 @@ Rectangle {
 
     Accessible.role: Accessible.Grouping
     Accessible.name: spokenLabel
+    Accessible.description: spokenDetail
 
     Row {
         id: row
@@ -49,7 +51,7 @@ Rectangle {
                 label: modelData.label
                 isSelected: index === pills.selectedIndex
                 isAccented: pills.accentSelection
-                activeFocusOnTab: pills.enabled && index === Math.max(0, pills.selectedIndex)
+                activeFocusOnTab: activeFocus || (pills.enabled && index === Math.max(0, pills.selectedIndex))
                 onActivated: pills.chosen(modelData.value)
                 onMoved: by => pills.choose(index + by)
             }

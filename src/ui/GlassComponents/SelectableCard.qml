@@ -25,8 +25,8 @@ Rectangle {
     border.width: Glass.dark && !isSelected ? 1 : 0
     border.color: Glass.over(Glass.hairline, color)
 
-    // One stop for the keyboard: the arrow keys do the rest.
-    activeFocusOnTab: isSelected
+    // One stop for the keyboard: the arrow keys do the rest. Where the keyboard is, it cannot be taken away.
+    activeFocusOnTab: isSelected || activeFocus
     Keys.forwardTo: [area]
     Keys.onLeftPressed: choice.moved(LayoutMirroring.enabled ? 1 : -1)
     Keys.onRightPressed: choice.moved(LayoutMirroring.enabled ? -1 : 1)

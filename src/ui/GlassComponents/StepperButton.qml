@@ -24,6 +24,8 @@ Rectangle {
 
     Accessible.role: Accessible.Button
     Accessible.name: spokenLabel
+    Accessible.description: enabled ? "" : SpokenWords.unavailable
+    Accessible.focusable: false
     Accessible.onPressAction: button.act()
 
     Label {

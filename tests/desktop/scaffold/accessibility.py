@@ -73,15 +73,20 @@ class Node:
             yield from child.walk()
 
 
+def accessibility_address(session_address):
+    """Of the bus of its own that all this goes over."""
+    session = dbus.bus.BusConnection(session_address)
+    address = session.call_blocking("org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress", "", (),
+                                    timeout=ANSWER_PATIENCE)
+    session.close()
+    return str(address)
+
+
 class Accessibility:
     """What the programs of a desktop tell of themselves."""
 
     def __init__(self, session_address):
-        session = dbus.bus.BusConnection(session_address)
-        address = session.call_blocking("org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress", "", (),
-                                        timeout=ANSWER_PATIENCE)
-        session.close()
-        self._bus = dbus.bus.BusConnection(str(address))
+        self._bus = dbus.bus.BusConnection(accessibility_address(session_address))
 
     def close(self):
         self._bus.close()

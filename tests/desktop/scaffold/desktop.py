@@ -55,9 +55,17 @@ class Desktop:
         self.environment["DISPLAY"] = self._start_server()
         self.run("xrandr", "--setmonitor", "L", f"{WIDTH}/508x{HEIGHT}/286+0+0", "screen")
         self.plug_right()
-        self.processes.start(["openbox", "--sm-disable"], env=self.environment)
-        until(lambda: "window id" in self.windows.run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"), "openbox")
+        self._start_window_manager()
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = start_session_bus(self.processes, self.folder)
+
+    def _start_window_manager(self):
+        self._window_manager = self.processes.start(["openbox", "--sm-disable"], env=self.environment)
+        until(lambda: "window id" in self.windows.run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"), "openbox")
+
+    def restart_window_manager(self, meanwhile=lambda: None):
+        self.processes.end(self._window_manager)
+        meanwhile()
+        self._start_window_manager()
 
     def _start_server(self):
         reader, writer = os.pipe()
@@ -83,6 +91,9 @@ class Desktop:
         self.run("xrandr", "--setmonitor", "R", f"{WIDTH}/508x{HEIGHT}/286+{WIDTH}+0", "none")
 
     def unplug_right(self):
+        """Does nothing where it is not plugged."""
+        if not self._is_right_plugged:
+            return
         self._is_right_plugged = False
         self.run("xrandr", "--delmonitor", "R")
 

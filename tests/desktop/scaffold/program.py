@@ -21,12 +21,15 @@ QUICK = {"idleMode": "off", "enforcementLevel": "casual", "workIntervalSeconds":
 
 class Program:
     """One run, with preferences and folders of its own, or those in `home`, that of an earlier run. A variable of
-    `environment` that is None is left out."""
+    `environment` that is None is left out. `wrapper` is a command that becomes the program at last, with its own
+    process number; `binary` is another executable than KESTRELFEN's."""
 
-    def __init__(self, desktop, preferences, environment=None, home=None):
-        if not os.access(BINARY, os.X_OK):
+    def __init__(self, desktop, preferences, environment=None, home=None, wrapper=(),
+                 binary=BINARY):
+        if not os.access(binary, os.X_OK):
             raise AssertionError("KESTRELFEN does not name the program to test")
         self._desktop = desktop
+        self._binary = binary
         folder = home or Path(tempfile.mkdtemp(prefix="run-", dir=desktop.folder))
         self.home = folder
         self.store_file = folder / "data" / "kestrelfen" / "Kestrelfen.sqlite"
@@ -38,7 +41,7 @@ class Program:
         self._log_file = folder / "standard-error"
         self._output_file = folder / "standard-output"
         with open(self._log_file, "wb") as log, open(self._output_file, "wb") as output:
-            self._process = desktop.processes.start([BINARY], env=self._environment, stdout=output, stderr=log)
+            self._process = desktop.processes.start([*wrapper, binary], env=self._environment, stdout=output, stderr=log)
         self.pid = self._process.pid
 
     def write_preferences(self, preferences):
@@ -75,7 +78,7 @@ class Program:
 
     def second_start(self):
         """Starts it again beside this run; its exit status and what it prints."""
-        answer = subprocess.run([BINARY], env=self._environment, stdout=subprocess.PIPE, stderr=subprocess.PIPE,
+        answer = subprocess.run([self._binary], env=self._environment, stdout=subprocess.PIPE, stderr=subprocess.PIPE,
                                 text=True, timeout=20, check=False)
         return answer.returncode, answer.stdout
 

@@ -169,6 +169,35 @@ TEST_F(KeyboardTest, arrowsGoFromPillToPillAndStopAtTheEnds) {
     EXPECT_TRUE(hasKeyboard("One"));
 }
 
+TEST_F(KeyboardTest, pillThatIsNoLongerChosenIsAStopUntilTheKeyboardLeavesIt) {
+    showControls();
+    tabTo("Two");
+    root_->setProperty("choice", 3);
+    EXPECT_TRUE(hasKeyboard("Two"));
+    press(Qt::Key_Tab);
+    press(Qt::Key_Tab);
+    ASSERT_TRUE(hasKeyboard("Last"));
+    press(Qt::Key_Backtab);
+    EXPECT_TRUE(hasKeyboard("Three"));
+    press(Qt::Key_Backtab);
+    EXPECT_TRUE(hasKeyboard("Switch"));
+}
+
+TEST_F(KeyboardTest, cardThatIsNoLongerChosenIsAStopUntilTheKeyboardLeavesIt) {
+    show(R"(Row {
+        property int choice: 0
+        SelectableCard { title: "Left"; isSelected: parent.choice === 0; width: 100 }
+        SelectableCard { title: "Right"; isSelected: parent.choice === 1; width: 100 }
+    })");
+    tabTo("Left");
+    root_->setProperty("choice", 1);
+    EXPECT_TRUE(hasKeyboard("Left"));
+    press(Qt::Key_Tab);
+    EXPECT_TRUE(hasKeyboard("Right"));
+    press(Qt::Key_Tab);
+    EXPECT_TRUE(hasKeyboard("Right"));
+}
+
 TEST_F(KeyboardTest, mirroredTheArrowsGoTheOtherWay) {
     showControls();
     root_->setParentItem(nullptr);

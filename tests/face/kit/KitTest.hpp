@@ -17,6 +17,10 @@ namespace kestrelfen {
 
 /// One piece of the kit in a window of plain colour.
 class KitTest : public testing::Test {
+  public:
+    /// `top` as it looks over `below`.
+    static QColor over(const QColor& top, const QColor& below);
+
   protected:
     static constexpr QColor backdrop{40, 90, 160};
 
@@ -35,9 +39,6 @@ class KitTest : public testing::Test {
     /// What is seen, fresh.
     QImage picture();
     QColor pixel(double x, double y);
-
-    /// `top` as it looks over `below`.
-    static QColor over(const QColor& top, const QColor& below);
 
     void click(const QQuickItem* item);
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
