@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 namespace kestrelfen {
 namespace {
 
@@ -96,6 +98,15 @@ TEST_F(DailyCounterTest, EachQuotaCountsForItself) {
     DailyCounter::increment(preferences, "advanceSkipsPerDay", today);
     EXPECT_EQ(used(today), 1);
     EXPECT_EQ(DailyCounter::used(preferences, "advanceSkipsPerDay", today), 2);
+}
+
+TEST_F(DailyCounterTest, ASumThatCannotGrowStays) {
+    constexpr std::int64_t largest = std::numeric_limits<std::int64_t>::max();
+    preferences.set("snoozesPerDay.day", today);
+    preferences.set("snoozesPerDay.count", largest - 1);
+    increment(today);
+    increment(today);
+    EXPECT_EQ(used(today), largest);
 }
 
 } // namespace

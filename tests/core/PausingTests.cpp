@@ -150,6 +150,21 @@ TEST_F(PausingTest, APauseOfTheIdleEngineStartsWorkWhenItIsResumed) {
     EXPECT_EQ(state(), "working until 08:20:30");
 }
 
+TEST_F(PausingTest, APauseAfterAShutDownHoldsNothingOfThePauseBefore) {
+    start();
+    engine().pause(PauseReason::manual);
+    engine().shutDown();
+    forget();
+    engine().pause(PauseReason::manual);
+    EXPECT_EQ(happened(), lines({"08:00:00 log paused (manual, 0:00 left)"}));
+    EXPECT_EQ(engine().timeUntilNextBreak(), 0.0);
+    pass(30);
+    engine().resume(now());
+    EXPECT_EQ(state(), "working until 08:20:30");
+    settle();
+    forget();
+}
+
 TEST_F(PausingTest, ResumingWithoutAPauseDoesNothingNowIncluded) {
     start();
     tickAt("08:00:05");

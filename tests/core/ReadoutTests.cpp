@@ -138,6 +138,13 @@ TEST_F(ReadoutTest, ATotalBelowZeroHasNoProgress) {
     EXPECT_EQ(read(), "next 0, break 0, elapsed 0, progress 0, text 00:00");
 }
 
+TEST_F(ReadoutTest, ATotalOfLessThanASecondHasProgress) {
+    prefer("workIntervalSeconds", 0.5);
+    start();
+    tickAt("08:00:00.25");
+    EXPECT_EQ(read(), "next 0.25, break 0, elapsed 0, progress 0.5, text 00:01");
+}
+
 TEST_F(ReadoutTest, WithARhythmOfFourTheNextBreakIsLongInPositionFour) {
     start();
     for (const std::int64_t position : {1, 2, 3, 4, 1}) {

@@ -42,6 +42,11 @@ TEST_F(StartTest, StartConnectsTheMonitorBeforeTheFirstWorkInterval) {
     EXPECT_EQ(platform.ticker.running(), 1U);
 }
 
+TEST_F(StartTest, TheTimerTicksOnceASecond) {
+    start();
+    EXPECT_EQ(platform.ticker.periods(), std::vector<double>{1.0});
+}
+
 TEST_F(StartTest, TheFirstWorkIntervalBeginsAtTheStartAndNotAtTheCreation) {
     create();
     pass(3600);
@@ -111,6 +116,14 @@ TEST_F(StartTest, ShutDownEndsTheTimerThenTheMonitorAndRecordsNothing) {
     EXPECT_EQ(engine().nextBreakAt(), std::nullopt);
     EXPECT_EQ(engine().breaksCompletedToday(), 0);
     EXPECT_EQ(happened(), lines({"08:20:00 monitor stops"}));
+}
+
+TEST_F(StartTest, ShutDownLeavesNoBreakToCome) {
+    start();
+    engine().shutDown();
+    EXPECT_EQ(engine().nextBreakAt(), std::nullopt);
+    EXPECT_EQ(engine().timeUntilNextBreak(), 0.0);
+    EXPECT_EQ(happened(), lines({"08:00:00 monitor stops"}));
 }
 
 TEST_F(StartTest, ShutDownDuringAPauseRecordsNothing) {
