@@ -174,5 +174,79 @@ class CallsTests(CheckTest):
         self.assert_breach({"README.md": ""}, "holds no sources")
 
 
+HEADING = 'msgid ""\nmsgstr ""\n"Content-Type: text/plain; charset=UTF-8\\n"\n\n'
+
+
+class TextsTests(CheckTest):
+    check = "check-texts"
+
+    def project(self, catalogue, source='auto text = translated("%1 of %2", values);\n'):
+        with open(os.path.join(HERE, "../../scripts/texts"), encoding="utf-8") as stream:
+            script = stream.read()
+        files = {"scripts/texts": script, "src/ui/X.cpp": source, "po/LINGUAS": "de\n",
+                 "po/de.po": HEADING + catalogue}
+        with tempfile.TemporaryDirectory() as root:
+            for path in ("scripts/texts", "src/ui/X.cpp"):
+                os.makedirs(os.path.dirname(os.path.join(root, path)))
+                with open(os.path.join(root, path), "w", encoding="utf-8") as stream:
+                    stream.write(files[path])
+            template = os.path.join(root, "template.pot")
+            subprocess.run(["bash", os.path.join(root, "scripts/texts"), "--to", template], check=True)
+            with open(template, encoding="utf-8") as stream:
+                files["po/kestrelfen.pot"] = stream.read()
+        return files
+
+    def test_a_translation_may_put_values_in_another_order(self):
+        self.assert_clean(self.project('msgid "%1 of %2"\nmsgstr "von %2 sind es %1"\n'))
+
+    def test_a_text_without_a_translation_is_found(self):
+        self.assert_breach(self.project('msgid "%1 of %2"\nmsgstr ""\n'), "'%1 of %2' is not translated")
+        self.assert_breach(self.project(""), "lacks '%1 of %2'")
+
+    def test_a_guess_is_found(self):
+        self.assert_breach(self.project('#, fuzzy\nmsgid "%1 of %2"\nmsgstr "%1 von %2"\n'), "fuzzy")
+
+    def test_a_lost_value_is_found(self):
+        self.assert_breach(self.project('msgid "%1 of %2"\nmsgstr "%1 davon"\n'), "other places")
+
+    def test_a_form_of_a_count_is_looked_at_too(self):
+        source = 'auto text = translatedCount(n, "%1 day", "%1 days");\n'
+        entry = 'msgid "%1 day"\nmsgid_plural "%1 days"\nmsgstr[0] "%1 Tag"\nmsgstr[1] "{}"\n'
+        self.assert_clean(self.project(entry.format("%1 Tage"), source))
+        self.assert_breach(self.project(entry.format("Tage"), source), "'Tage' has other places")
+
+    def test_a_text_that_nobody_says_is_found(self):
+        self.assert_breach(self.project('msgid "%1 of %2"\nmsgstr "%1/%2"\n\nmsgid "Old"\nmsgstr "Alt"\n'),
+                           "nobody says 'Old'")
+
+    def test_a_template_that_is_out_of_date_is_found(self):
+        files = self.project('msgid "%1 of %2"\nmsgstr "%1 von %2"\n')
+        files["src/ui/X.cpp"] += 'auto other = translated("New");\n'
+        self.assert_breach(files, "run scripts/texts")
+
+
+class LinksTests(CheckTest):
+    check = "check-links"
+
+    def test_what_exists_may_be_named(self):
+        self.assert_clean({
+            "docs/a.md": "[b](b.md) [the end](b.md#the-end) ![picture](../pictures/p.png) [out](mailto:x@y)\n",
+            "docs/b.md": "# The end\n`src/x.cpp` `./test --quick` `build/bin/x` `tests/*.scn`\n\n    ./test\n",
+            "pictures/p.png": "", "src/x.cpp": "", "test": "",
+        })
+
+    def test_a_link_to_nothing_is_found(self):
+        self.assert_breach({"docs/a.md": "[b](b.md)\n"}, "docs/a.md: link to b.md does not exist")
+
+    def test_a_heading_that_is_gone_is_found(self):
+        self.assert_breach({"a.md": "[b](b.md#old)\n", "b.md": "# New\n"}, "no such heading")
+
+    def test_a_path_that_is_gone_is_found(self):
+        self.assert_breach({"a.md": "See `src/core/Old.cpp`.\n"}, "path src/core/Old.cpp")
+
+    def test_a_command_that_is_gone_is_found(self):
+        self.assert_breach({"a.md": "Do\n\n    scripts/old --now  # at once\n"}, "path scripts/old")
+
+
 if __name__ == "__main__":
     unittest.main()
