@@ -64,6 +64,11 @@ TEST_F(DisplayLocatorTest, SkipsWindowsWithoutASize) {
               2);
 }
 
+TEST_F(DisplayLocatorTest, FindsWindowsOfTheLeastSize) {
+    EXPECT_EQ(displayOf({{7, 0, ScreenRect{100, 100, 1, 600}}}), 1);
+    EXPECT_EQ(displayOf({{7, 0, ScreenRect{100, 100, 800, 1}}}), 1);
+}
+
 TEST_F(DisplayLocatorTest, SkipsWindowsOutsideEveryDisplay) {
     EXPECT_EQ(displayOf({{7, 0, ScreenRect{9000, 100, 800, 600}}, {7, 0, onSecond}}), 2);
     EXPECT_EQ(displayOf({{7, 0, ScreenRect{100, -700, 800, 600}}}), 0);
