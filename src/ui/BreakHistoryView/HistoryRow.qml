@@ -40,6 +40,7 @@ Item {
             TypeBadge {
                 id: badge
                 anchors.left: parent.left
+                width: Math.min(implicitWidth, parent.width)
                 text: entry.row.type
                 tint: Glass[entry.row.tint]
                 Accessible.ignored: true

@@ -18,6 +18,8 @@ Rectangle {
     Label {
         id: caption
         anchors.centerIn: parent
+        width: Math.min(implicitWidth, badge.width - 14)
+        wrapMode: Text.Wrap
         text: badge.text
         size: 9.5
         weight: Font.DemiBold

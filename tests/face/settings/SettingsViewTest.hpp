@@ -26,7 +26,7 @@ class SettingsViewTest : public ViewOverMachine {
         model = std::make_unique<SettingsModel>(
             SettingsSources{engine(), monitor, scripting, nullptr, writer, router,
                             [](const std::string&, const SettingsSources::ChosenFile&) {},
-                            [this] { ++settingsOpened; }, "1.0.0", "1"},
+                            [this] { ++settingsOpened; }, "1.0.0", "1", overlays},
             platform.ports());
         show(QStringLiteral("SettingsWindowView.qml"), *model, QSize(860, 600));
     }
@@ -52,6 +52,8 @@ class SettingsViewTest : public ViewOverMachine {
                               platform.log};
     BrowserScripting scripting{platform.ports()};
     int settingsOpened = 0;
+    /// Absent for a pane without the list of what works.
+    std::optional<OverlayReach> overlays;
     /// The browsers whose permission was asked for.
     std::vector<std::string> asked;
     std::unique_ptr<SettingsModel> model;

@@ -215,6 +215,30 @@ TEST_F(SettingsViewTest, DeniedBrowserLeadsToTheSystemsSettings) {
     EXPECT_FALSE(shows("Open Settings"));
 }
 
+TEST_F(SettingsViewTest, AboutTellsWhatWorksAsItComesAndGoes) {
+    overlays = OverlayReach::everywhere;
+    platform.audioProcesses.setSupported(false);
+    start();
+    open(SettingsPane::about);
+    const char* const fallback = "No sound server. Calls and video pause while their app is in front.";
+    EXPECT_TRUE(shows("What works here"));
+    EXPECT_TRUE(shows(fallback));
+    named(QStringLiteral("Calls and video: Unavailable"));
+    named(QStringLiteral("Tray icon: Works"));
+    platform.audioProcesses.setSupported(true);
+    pass(1.0);
+    tick();
+    settleView();
+    EXPECT_FALSE(shows(fallback));
+    named(QStringLiteral("Calls and video: Works"));
+}
+
+TEST_F(SettingsViewTest, AboutWithoutADesktopTellsNothingMore) {
+    open(SettingsPane::about);
+    EXPECT_FALSE(shows("What works here"));
+    EXPECT_FALSE(shows("Tray icon"));
+}
+
 TEST_F(SettingsViewTest, WithoutAStoreTheHistoryIsLeftAlone) {
     open(SettingsPane::notifications);
     EXPECT_FALSE(named(QStringLiteral("Delete All History…"))->isEnabled());
