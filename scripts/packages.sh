@@ -2,7 +2,7 @@
 # What has to be installed, and installing it. Debian and Ubuntu only; elsewhere the packages are named.
 
 packages_to_build=(
-    g++ cmake ninja-build pkg-config qt6-base-dev qt6-declarative-dev
+    g++ cmake ninja-build pkg-config gettext qt6-base-dev qt6-declarative-dev
     qml6-module-qtqml qml6-module-qtqml-workerscript qml6-module-qtquick
     libxcb1-dev libxcb-dpms0-dev libxcb-res0-dev libxcb-screensaver0-dev
     nlohmann-json3-dev libsqlitecpp-dev libsqlite3-dev
@@ -18,7 +18,8 @@ packages_to_test=(
     libgtest-dev libgmock-dev libbenchmark-dev clang-format
     "${packages_for_a_desktop[@]}" at-spi2-core xterm x11-xserver-utils python3 python3-dbus python3-dbusmock python3-gi
     pulseaudio pulseaudio-utils
-    sway foot wtype grim
+    sway foot wtype grim strace
+    desktop-file-utils appstream man-db dpkg-dev
 )
 # Ubuntu has it as a snap only; where it is not installed, the tests with a real browser are skipped.
 if grep -qsx 'ID=debian' /etc/os-release; then
@@ -26,17 +27,17 @@ if grep -qsx 'ID=debian' /etc/os-release; then
 fi
 packages_to_tidy=(clang-tidy)
 
-fedora_packages="gcc-c++ cmake ninja-build pkgconf qt6-qtbase-devel qt6-qtdeclarative-devel \
+fedora_packages="gcc-c++ cmake ninja-build pkgconf gettext qt6-qtbase-devel qt6-qtdeclarative-devel \
 libxcb-devel json-devel rsms-inter-fonts jetbrains-mono-fonts xorg-x11-server-Xvfb openbox tint2 dunst \
 dbus-daemon ImageMagick xdpyinfo gtest-devel gmock-devel google-benchmark-devel clang-tools-extra at-spi2-core xterm \
 xdotool xset xrandr xprop xwininfo python3-dbus python3-gobject python3-dbusmock pulseaudio-libs-devel pulseaudio \
 pulseaudio-utils sqlitecpp-devel sqlite-devel wayland-devel wayland-protocols-devel libxkbcommon-devel \
-qt6-qtwayland sway foot wtype grim"
-arch_packages="gcc cmake ninja pkgconf qt6-base qt6-declarative libxcb nlohmann-json inter-font \
+qt6-qtwayland desktop-file-utils appstream man-db sway foot wtype grim strace"
+arch_packages="gcc cmake ninja pkgconf gettext qt6-base qt6-declarative libxcb nlohmann-json inter-font \
 ttf-jetbrains-mono xorg-server-xvfb openbox tint2 dunst dbus imagemagick xorg-xdpyinfo gtest benchmark clang \
 at-spi2-core xterm xdotool xorg-xset xorg-xrandr xorg-xprop xorg-xwininfo python-dbus python-gobject python-dbusmock \
 libpulse pulseaudio sqlitecpp sqlite wayland wayland-protocols \
-libxkbcommon qt6-wayland sway foot wtype grim"
+libxkbcommon qt6-wayland desktop-file-utils appstream man-db sway foot wtype grim strace"
 
 # Prints those of the packages that are not installed.
 missing_packages() {
@@ -104,7 +105,7 @@ apt_install() {
 # Where there is no apt: goes on if everything to build with is there already.
 require_tools() {
     local tool lacking=()
-    for tool in c++ cmake ninja pkg-config; do
+    for tool in c++ cmake ninja pkg-config msgfmt; do
         command -v "$tool" >/dev/null || lacking+=("$tool")
     done
     for tool in Qt6Core Qt6Quick xcb-dpms xcb-res xcb-screensaver nlohmann_json sqlite3 libpulse \
