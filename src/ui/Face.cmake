@@ -205,6 +205,8 @@ target_include_directories(kestrelfen_ui
     PRIVATE . AppListEditor BreakHistoryView BreakOverlayView GlassComponents MainWindowView MenuBarView OnboardingView
         PreBreakWarningView ScreenTimeView SettingsWindowView TasksView UsageDetailView)
 target_link_libraries(kestrelfen_ui PUBLIC kestrelfen_content Qt6::Quick PRIVATE kestrelfen_sanitizers)
+# As pedantic code has it: what is precompiled must agree with both kinds.
+target_compile_options(kestrelfen_ui PRIVATE -Wvla)
 kestrelfen_precompile(kestrelfen_ui QtQml/qqmlprivate.h QPainter QQuickItem QVariantMap
     algorithm functional map memory optional string vector)
 # Where speed is not the point the views are read as they stand: compiling them ahead takes long and shows nothing more.
