@@ -6,7 +6,7 @@ from scaffold import until
 from scaffold.audit import (ALERT, BUTTON, CHOICE, DIALOG, ENTRY, LABEL, MENU, POPUP, STEPPER, SWITCH, TAB, headings,
                             stops)
 from scaffold.audit_case import AuditTest
-from scaffold.hearing import Hearing
+from scaffold.hearing import Event, Hearing
 from scaffold.main_window import LONG, PILL
 from scaffold.program import QUICK
 from scaffold.settings import PANES
@@ -185,7 +185,8 @@ class AuditTests(AuditTest):
             renamed = [each for each in heard if each.what == "accessible-name"]
             self.assertGreaterEqual(len(renamed), 3, "the countdown goes on")
             self.assertEqual({each.role for each in renamed}, {LABEL})
-            self.assertEqual({each.what for each in heard}, {"accessible-name"})
+            # The chart sums the week up, which grows with the screen time: nobody is interrupted by a description.
+            self.assertLessEqual(set(heard) - set(renamed), {Event("accessible-description", "chart")})
 
     def test_warning_card_announces_itself_once(self):
         self.begin(WARNED)

@@ -116,6 +116,7 @@ class WaylandOverlayTests(TerminalTest):
     def test_button_is_pressed(self):
         program = self.start(LONG)
         self.wait_for_overlays()
+        self.wait_until_settled()
         self.hands.click(self.place_of_first_button())
         program.logs("snoozed 1 min (today: 1, this break: 1)")
         self.wait_for_no_overlay()
