@@ -64,9 +64,9 @@ class Texts {
     Texts& operator=(const Texts&) = delete;
 
   private:
-    GettextCatalogue own_{QDir::cleanPath(QGuiApplication::applicationDirPath() +
-                                          QStringLiteral("/../share/locale"))
-                              .toStdString()};
+    GettextCatalogue own_{
+        QDir::cleanPath(QGuiApplication::applicationDirPath() + QStringLiteral("/../share/locale"))
+            .toStdString()};
     WordedCatalogue worded_{own_};
 };
 

@@ -54,10 +54,10 @@ void setSceneFaces(QuickSceneWindows& windows, AppDelegate& delegate, const Scen
                      smallestMainSize, [&windows, &delegate, platform = services.platform] {
                          return makeMainModel(windows, delegate, platform);
                      }});
-    windows.setFace(Scene::settings, {QStringLiteral("SettingsWindowView.qml"), QString::fromStdString(translated("Settings")),
-                                      settingsSize, smallestSettingsSize, [&delegate, services] {
-                                          return makeSettingsModel(delegate, services);
-                                      }});
+    windows.setFace(Scene::settings,
+                    {QStringLiteral("SettingsWindowView.qml"), QString::fromStdString(translated("Settings")),
+                     settingsSize, smallestSettingsSize,
+                     [&delegate, services] { return makeSettingsModel(delegate, services); }});
 }
 
 } // namespace kestrelfen
