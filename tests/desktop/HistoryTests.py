@@ -16,14 +16,6 @@ SECONDS_TO_END = 2.0
 
 
 class HistoryTests(DesktopTest):
-    @staticmethod
-    def rows(program, question):
-        connection = sqlite3.connect(f"file:{program.store_file}?mode=ro", uri=True, timeout=5)
-        try:
-            return connection.execute(question).fetchall()
-        finally:
-            connection.close()
-
     def home(self):
         return Path(tempfile.mkdtemp(prefix="run-", dir=self.desktop.folder))
 
@@ -42,9 +34,9 @@ class HistoryTests(DesktopTest):
         program = self.start(SHORT)
         program.logs("break complete (today: 2)")
         self.assertEqual(self.end(program), 0)
-        self.assertEqual(self.rows(program, "SELECT outcomeRawValue, displayCount, isLong, plannedSeconds FROM BreakRecord"),
+        self.assertEqual(program.rows("SELECT outcomeRawValue, displayCount, isLong, plannedSeconds FROM BreakRecord"),
                          [("completed", 2, 0, 1.0)] * 2)
-        self.assertEqual(self.rows(program, "SELECT breaksCompleted, breaksSkipped FROM DayRecord"), [(2, 0)])
+        self.assertEqual(program.rows("SELECT breaksCompleted, breaksSkipped FROM DayRecord"), [(2, 0)])
 
     def test_next_run_takes_up_the_days_counts(self):
         program = self.start(SHORT)
@@ -57,7 +49,7 @@ class HistoryTests(DesktopTest):
     def test_break_that_is_over_survives_murder(self):
         program = self.start(SHORT)
         program.logs("break complete (today: 1)")
-        until(lambda: program.store_file.exists() and self.rows(program, "SELECT * FROM BreakRecord"), "the row", 2.0)
+        until(lambda: program.store_file.exists() and program.rows("SELECT * FROM BreakRecord"), "the row", 2.0)
         self.assertEqual(self.end(program, signal.SIGKILL), -signal.SIGKILL)
         again = self.start(AT_WORK, home=program.home)
         again.logs(": 1 completed, 0 skipped")
@@ -66,14 +58,14 @@ class HistoryTests(DesktopTest):
         program = self.start()
         self.wait_for_overlays()
         self.assertEqual(self.end(program), 0)
-        self.assertEqual(self.rows(program, "SELECT * FROM BreakRecord"), [])
+        self.assertEqual(program.rows("SELECT * FROM BreakRecord"), [])
 
     def test_screen_time_of_the_last_seconds_is_kept(self):
         program = self.start(AT_WORK | {"idleMode": "custom", "idleThresholdSeconds": 600.0})
         program.logs("work ")
         time.sleep(4.0)
         self.assertEqual(self.end(program, signal.SIGINT), 0)
-        [(seconds,)] = self.rows(program, "SELECT activeSeconds FROM DayRecord")
+        [(seconds,)] = program.rows("SELECT activeSeconds FROM DayRecord")
         self.assertTrue(1.5 < seconds < 6.0, seconds)
         program.logs("ScreenTime: flushed ")
 
@@ -85,7 +77,7 @@ class HistoryTests(DesktopTest):
         self.wait_for_popover()
         self.click_button(program, "Quit Kestrelfen")
         self.assertEqual(program.exit_status(SECONDS_TO_END), 0)
-        self.assertEqual(len(self.rows(program, "SELECT * FROM DayRecord")), 1)
+        self.assertEqual(len(program.rows("SELECT * FROM DayRecord")), 1)
 
     def test_file_that_is_no_store_is_left_alone_and_the_timer_runs(self):
         content = b"Dear diary, today I looked out of the window.\n" * 200
@@ -126,7 +118,7 @@ class HistoryTests(DesktopTest):
     def test_store_that_breaks_in_mid_run_leaves_the_timer_alone(self):
         program = self.start(SHORT)
         program.logs("break complete (today: 1)")
-        until(lambda: self.rows(program, "SELECT * FROM BreakRecord"), "the row", 2.0)
+        until(lambda: program.rows("SELECT * FROM BreakRecord"), "the row", 2.0)
         holder = sqlite3.connect(program.store_file, isolation_level=None)
         holder.execute("BEGIN IMMEDIATE")
         program.logs("recordBreak failed: ")
@@ -135,7 +127,7 @@ class HistoryTests(DesktopTest):
         holder.close()
         program.logs("break complete (today: 5)")
         self.assertEqual(self.end(program), 0)
-        [(kept,)] = self.rows(program, "SELECT count(*) FROM BreakRecord")
+        [(kept,)] = program.rows("SELECT count(*) FROM BreakRecord")
         self.assertIn(kept, (3, 4))
 
     def test_folder_is_for_its_owner_only(self):

@@ -39,7 +39,7 @@ class MainWindowTaskTests(MainWindowTest):
     def test_tasks_are_told_in_the_stores_order(self):
         self.open_tasks()
         told = [name.rsplit(", ", 1)[0] for name in self.rows()]
-        titles = [title for title, in self.stored("SELECT title FROM TaskRecord "
+        titles = [title for title, in self.program.rows("SELECT title FROM TaskRecord "
                                                    "ORDER BY completedAt IS NOT NULL, completedAt DESC, sortIndex")]
         self.assertGreater(len(told), 5)
         self.assertEqual(told, titles[:len(told)])
@@ -75,7 +75,7 @@ class MainWindowTaskTests(MainWindowTest):
         self.click("Delete", BUTTON)
         until(lambda: self.count() == 15, "it is deleted")
         self.wait_for("4 of 15 done")
-        self.assertEqual(self.stored("SELECT * FROM TaskRecord WHERE title = :title", title=OPEN), [])
+        self.assertEqual(self.program.rows("SELECT * FROM TaskRecord WHERE title = :title", title=OPEN), [])
 
     def test_completed_tasks_are_cleared(self):
         self.open_tasks()
@@ -87,7 +87,7 @@ class MainWindowTaskTests(MainWindowTest):
         self.click("Clear Completed…")
         self.click("Delete")
         self.wait_for("0 of 12 done")
-        self.assertEqual(self.stored("SELECT * FROM TaskRecord WHERE completedAt IS NOT NULL"), [])
+        self.assertEqual(self.program.rows("SELECT * FROM TaskRecord WHERE completedAt IS NOT NULL"), [])
 
     def open_detail(self, **preferences):
         self.open("Screen Time", **preferences)
@@ -103,7 +103,7 @@ class MainWindowTaskTests(MainWindowTest):
                 until(lambda: self.tells_totals(TOTALS[source], days_ago, noun), f"{source}, {label}", UNTIL_STORED)
 
     def tells_totals(self, question, days_ago, noun):
-        rows = self.stored(question, since=self.since(days_ago))
+        rows = self.program.rows(question, since=self.since(days_ago))
         total = sum(seconds for _, seconds in rows)
         if f"{active_time(total)} across {plural(len(rows), noun)}" not in self.told():
             return False

@@ -37,7 +37,7 @@ class MainWindowTests(MainWindowTest):
 
     def test_dashboard_tells_the_longest_stretch(self):
         self.open("Screen Time")
-        breaks = self.stored("SELECT startedAt, actualSeconds FROM BreakRecord WHERE outcomeRawValue = 'completed' "
+        breaks = self.program.rows("SELECT startedAt, actualSeconds FROM BreakRecord WHERE outcomeRawValue = 'completed' "
                              "AND startedAt >= :since ORDER BY startedAt", since=self.since(0))
         ends = [start / MICROSECONDS + seconds for start, seconds in breaks]
         gaps = [start / MICROSECONDS - end for (start, _), end in zip(breaks[1:], ends)]
@@ -48,7 +48,7 @@ class MainWindowTests(MainWindowTest):
     def test_dashboard_tells_the_days_of_the_week(self):
         self.open("Screen Time")
         self.wait_for("Eye Score")
-        days = {start: rest for start, *rest in self.stored(
+        days = {start: rest for start, *rest in self.program.rows(
             "SELECT startOfDay, activeSeconds, breaksCompleted, breaksSkipped FROM DayRecord")}
         for ago in range(1, 7):
             self.assertIn(self.day_sentence(self.since(ago), *days.get(self.since(ago), (0, 0, 0))), self.told(LABEL))
@@ -72,7 +72,7 @@ class MainWindowTests(MainWindowTest):
 
     def wait_for_usage(self, question):
         def is_told():
-            rows = self.stored(question, today=self.since(0))
+            rows = self.program.rows(question, today=self.since(0))
             wanted = [f"{name}, {active_time(seconds)}" for name, seconds in rows]
             return len(wanted) == 4 and [name for name in self.told(LABEL) if name in wanted] == wanted
         until(is_told, "the usage", UNTIL_STORED)

@@ -1,7 +1,6 @@
 """What the program makes of a person's day: calls, videos, locks, sleep, programs on two monitors."""
 
 import signal
-import sqlite3
 import time
 import unittest
 from pathlib import Path
@@ -40,14 +39,6 @@ class SenseTests(DesktopTest):
         time.sleep(1.5)
         return program
 
-    @staticmethod
-    def rows(program, question):
-        connection = sqlite3.connect(f"file:{program.store_file}?mode=ro", uri=True, timeout=5)
-        try:
-            return connection.execute(question).fetchall()
-        finally:
-            connection.close()
-
     def sound_of(self, kind, application):
         process = getattr(self.sound, kind)(application)
         self.addCleanup(self.sound.stop, process)
@@ -71,8 +62,8 @@ class SenseTests(DesktopTest):
         time.sleep(2.0)
         self.login.prepare_for_sleep(True)
         self.login.prepare_for_sleep(False)
-        until(lambda: self.rows(program, "SELECT kindRawValue FROM PauseRecord"), "the pause's row", 5.0)
-        self.assertEqual(self.rows(program, "SELECT DISTINCT kindRawValue FROM PauseRecord")[0], ("meeting",))
+        until(lambda: program.rows("SELECT kindRawValue FROM PauseRecord"), "the pause's row", 5.0)
+        self.assertEqual(program.rows("SELECT DISTINCT kindRawValue FROM PauseRecord")[0], ("meeting",))
 
     def test_sound_of_a_program_that_is_not_listed_pauses_nothing(self):
         program = self.at_work()
@@ -133,7 +124,7 @@ class SenseTests(DesktopTest):
         time.sleep(3.0)
         self.login.prepare_for_shutdown()
         self.assertEqual(program.exit_status(2.0), 0)
-        self.assertEqual(len(self.rows(program, "SELECT * FROM DayRecord")), 1)
+        self.assertEqual(len(program.rows("SELECT * FROM DayRecord")), 1)
 
     def test_rows_name_the_programs_and_their_displays(self):
         left = self.terminal("left", "-class", "LeftTerm", "-geometry", "40x10+200+200")
@@ -147,7 +138,7 @@ class SenseTests(DesktopTest):
         time.sleep(3.0)
         program.signal(signal.SIGTERM)
         self.assertEqual(program.exit_status(2.0), 0)
-        rows = self.rows(program, "SELECT bundleIdentifier, displayID, activeSeconds FROM AppUsageRecord ORDER BY id")
+        rows = program.rows("SELECT bundleIdentifier, displayID, activeSeconds FROM AppUsageRecord ORDER BY id")
         self.assertEqual([(name.lower(), display) for name, display, _ in rows],
                          [("leftterm", 1), ("rightterm", 2)], rows)
         self.assertTrue(all(seconds > 1.5 for *_, seconds in rows), rows)

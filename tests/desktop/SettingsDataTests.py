@@ -1,6 +1,5 @@
 """The history as a whole, from the settings: taken out of the program, and taken away."""
 
-import sqlite3
 import unittest
 from datetime import datetime, timezone
 from pathlib import Path
@@ -19,15 +18,8 @@ HISTORY = ("DayRecord", "BreakRecord", "PauseRecord", "AppUsageRecord")
 
 
 class SettingsDataTests(SettingsTest):
-    def rows(self, program, question):
-        connection = sqlite3.connect(f"file:{program.store_file}?mode=ro", uri=True, timeout=5)
-        try:
-            return connection.execute(question).fetchall()
-        finally:
-            connection.close()
-
     def counts(self, program):
-        return {table: self.rows(program, f"SELECT count(*) FROM {table}")[0][0] for table in HISTORY}
+        return {table: program.rows(f"SELECT count(*) FROM {table}")[0][0] for table in HISTORY}
 
     def kept(self, program):
         """Days and breaks; the use of programs goes on all the time."""
@@ -53,7 +45,7 @@ class SettingsDataTests(SettingsTest):
 
     def stored_as_csv(self, program):
         """The completed breaks in the store, the newest first, as the file should have them."""
-        rows = self.rows(program, "SELECT startedAt, actualSeconds, displayCount FROM BreakRecord "
+        rows = program.rows("SELECT startedAt, actualSeconds, displayCount FROM BreakRecord "
                                   "ORDER BY startedAt DESC")
         self.assertEqual(len(rows), 2)
         lines = ["started_at,type,duration_seconds,task,displays"]

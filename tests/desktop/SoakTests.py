@@ -143,12 +143,11 @@ class SoakTests(DesktopTest):
         told_of = transitions.tally(self.program.output)
         wanted = {kind: told_of[kind] for kind in transitions.OUTCOMES}
         self.assertGreater(wanted["break complete"], 0)
-        file = self.program.store_file
-        until(lambda: transitions.recorded(file) == wanted, f"rows for {wanted}", 5.0)
-        self.assertEqual(transitions.counted(file), wanted)
+        until(lambda: transitions.recorded(self.program) == wanted, f"rows for {wanted}", 5.0)
+        self.assertEqual(transitions.counted(self.program), wanted)
         if "day rollover" not in self.program.output:
             self.assert_counters(told_of)
-        print(f"told: {dict(sorted(told_of.items()))}; recorded: {transitions.recorded(file)}", flush=True)
+        print(f"told: {dict(sorted(told_of.items()))}; recorded: {transitions.recorded(self.program)}", flush=True)
 
     def assert_counters(self, told_of):
         """They are those of the day."""

@@ -1,6 +1,5 @@
 """The main window, the settings and the welcome of the first run."""
 
-import sqlite3
 import unittest
 
 from scaffold import DesktopTest, until
@@ -74,14 +73,7 @@ class WindowTests(DesktopTest):
         self.hands.type("Write it")
         self.hands.press("Return")
         self.wait_until_told(program, "Write it")
-        until(lambda: self.titles(program) == [("Write it",)], "the task is stored")
-
-    def titles(self, program):
-        connection = sqlite3.connect(f"file:{program.store_file}?mode=ro", uri=True)
-        try:
-            return connection.execute("SELECT title FROM TaskRecord").fetchall()
-        finally:
-            connection.close()
+        until(lambda: program.rows("SELECT title FROM TaskRecord") == [("Write it",)], "the task is stored")
 
     def test_settings_write_what_is_chosen(self):
         program = self.start(LONG)

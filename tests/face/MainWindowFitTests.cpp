@@ -1,8 +1,6 @@
-#include "face/FaceTest.hpp"
+#include "face/MainWindowFixture.hpp"
 #include "face/Pseudo.hpp"
 #include "face/TextFit.hpp"
-#include "ui/MainWindowView/MainWindowModel.hpp"
-#include "ui/OnboardingView/OnboardingModel.hpp"
 
 #include <QTest>
 
@@ -18,29 +16,8 @@ const char* const longName =
     "Offices of Both Hemispheres";
 
 /// The main window in a language that takes more room, at its smallest and as it is at first.
-class MainWindowFitTest : protected Pseudo, public FaceTest {
+class MainWindowFitTest : protected Pseudo, public MainWindowFixture {
   protected:
-    void open() {
-        model_ = std::make_unique<MainWindowModel>(
-            MainWindowSources{delegate_.engine(), delegate_.screenTime(), delegate_.store(),
-                              delegate_.router(), scenes_},
-            machine_.ports(), [this] {
-                return std::make_unique<OnboardingModel>(machine_.ports(),
-                                                         [this] { delegate_.finishOnboarding(); });
-            });
-        view_ = views_.make(QStringLiteral("MainWindowView.qml"),
-                            {{"model", QVariant::fromValue<QObject*>(model_.get())}});
-        view_->setResizeMode(QQuickView::SizeRootObjectToView);
-        view_->resize(1040, 660);
-        view_->show();
-        settle();
-    }
-
-    ~MainWindowFitTest() override {
-        view_.reset();
-        model_.reset();
-    }
-
     /// A list lays its rows out only with the next frame.
     void expectFit(const char* what) {
         for (const QSize& size : {QSize(900, 560), QSize(1040, 660)}) {
@@ -54,31 +31,11 @@ class MainWindowFitTest : protected Pseudo, public FaceTest {
     }
 
     void expectTabFits(MainTab tab, const char* what) {
-        delegate_.router().setMainTab(tab);
-        settle();
+        showTab(tab);
         expectFit(what);
     }
 
     void press(const char* label) { click(view_.get(), pseudo(label)); }
-
-    void addTask(const std::string& title) {
-        delegate_.store()->createTask({.title = title, .notes = {}, .dueOn = {}, .now = machine_.clock.now()},
-                                      {});
-        settle();
-    }
-
-    void use(const std::string& name, int seconds) {
-        machine_.applications.start(
-            {.bundleIdentifier = "org." + name, .localizedName = name, .processIdentifier = 7});
-        machine_.applications.setFrontmost(7);
-        run(seconds);
-        machine_.applications.setFrontmost({});
-        run(1);
-        machine_.applications.stop(7);
-    }
-
-    std::unique_ptr<MainWindowModel> model_;
-    std::unique_ptr<QQuickView> view_;
 };
 
 TEST_F(MainWindowFitTest, EmptyTabs) {

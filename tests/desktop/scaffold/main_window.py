@@ -2,7 +2,6 @@
 
 import datetime
 import shutil
-import sqlite3
 import tempfile
 from pathlib import Path
 
@@ -84,15 +83,8 @@ class MainWindowTest(DesktopTest):
     def wait_for_no(self, name):
         until(lambda: name not in (self.told() or [name]), f"no {name!r}")
 
-    def stored(self, question, **values):
-        connection = sqlite3.connect(f"file:{self.program.store_file}?mode=ro", uri=True, timeout=5)
-        try:
-            return connection.execute(question, values).fetchall()
-        finally:
-            connection.close()
-
     def one(self, question, **values):
-        [(answer,)] = self.stored(question, **values)
+        [(answer,)] = self.program.rows(question, **values)
         return answer
 
     def since(self, days_ago):
@@ -101,7 +93,7 @@ class MainWindowTest(DesktopTest):
 
     def history(self, days_ago):
         """What the rows of the table are to say, the newest first."""
-        rows = self.stored(HISTORY, since=self.since(days_ago))[:SHOWN_AT_MOST]
+        rows = self.program.rows(HISTORY, since=self.since(days_ago))[:SHOWN_AT_MOST]
         return [self._sentence(*row) for row in rows]
 
     def _sentence(self, started_at, kind, is_long, seconds, task, displays):

@@ -3,6 +3,7 @@
 import json
 import os
 import signal
+import sqlite3
 import subprocess
 import tempfile
 from pathlib import Path
@@ -63,6 +64,14 @@ class Program:
     @property
     def output(self):
         return self._output_file.read_text(encoding="utf-8")
+
+    def rows(self, question, **values):
+        """What the history's file answers, read beside the program."""
+        connection = sqlite3.connect(f"file:{self.store_file}?mode=ro", uri=True, timeout=5)
+        try:
+            return connection.execute(question, values).fetchall()
+        finally:
+            connection.close()
 
     def count(self, text):
         return self.log.count(text)

@@ -1,7 +1,6 @@
 """What the program tells of its breaks on standard output in the fast cycle."""
 
 import re
-import sqlite3
 from collections import Counter
 
 LINE = re.compile(r"^\[Kestrelfen\] \d\d:\d\d:\d\d (.*)$", re.MULTILINE)
@@ -31,21 +30,13 @@ def state(output):
     return next((line for line in reversed(lines_of(output)) if STATE.match(line)), "")
 
 
-def ask(store_file, question):
-    connection = sqlite3.connect(f"file:{store_file}?mode=ro", uri=True, timeout=5)
-    try:
-        return connection.execute(question).fetchall()
-    finally:
-        connection.close()
-
-
-def recorded(store_file):
+def recorded(program):
     """The rows of each outcome, under the names of what was told."""
-    rows = dict(ask(store_file, "SELECT outcomeRawValue, count(*) FROM BreakRecord GROUP BY outcomeRawValue"))
+    rows = dict(program.rows("SELECT outcomeRawValue, count(*) FROM BreakRecord GROUP BY outcomeRawValue"))
     return {kind: rows.pop(outcome, 0) for kind, outcome in OUTCOMES.items()} | rows
 
 
-def counted(store_file):
+def counted(program):
     """What the days say of themselves."""
-    [(completed, skipped)] = ask(store_file, "SELECT sum(breaksCompleted), sum(breaksSkipped) FROM DayRecord")
+    [(completed, skipped)] = program.rows("SELECT sum(breaksCompleted), sum(breaksSkipped) FROM DayRecord")
     return {"break complete": completed or 0, "break skipped": skipped or 0}
