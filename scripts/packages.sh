@@ -19,7 +19,7 @@ packages_to_test=(
     "${packages_for_a_desktop[@]}" at-spi2-core xterm x11-xserver-utils python3 python3-dbus python3-dbusmock python3-gi
     pulseaudio pulseaudio-utils
     sway foot wtype grim strace
-    desktop-file-utils appstream man-db dpkg-dev
+    desktop-file-utils appstream man-db dpkg-dev file
 )
 # Ubuntu has it as a snap only; where it is not installed, the tests with a real browser are skipped.
 if grep -qsx 'ID=debian' /etc/os-release; then
