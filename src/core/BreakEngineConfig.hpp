@@ -11,7 +11,7 @@ struct BreakEngineConfig {
     double workInterval = 0;
     double breakDuration = 0;
     double longBreakDuration = 0;
-    /// Every how many breaks one is long; at least 1.
+    /// Every how many breaks one is long; never 0. Below 2 only in the fast cycle.
     std::int64_t longBreakEvery = 1;
     /// How long before a break its warning starts.
     double preBreakWarningLead = 0;

@@ -178,6 +178,8 @@ set(models
     RowListModel.hpp
     ScreenTimeView/DashboardModel.cpp
     ScreenTimeView/DashboardModel.hpp
+    ScreenTimeView/DashboardObjects.cpp
+    ScreenTimeView/DashboardObjects.hpp
     SettingsWindowView/PaneModels.cpp
     SettingsWindowView/PaneModels.hpp
     SettingsWindowView/SettingsModel.cpp

@@ -1,5 +1,7 @@
 #include "core/EngineTest.hpp"
 
+#include <cstdlib>
+
 namespace kestrelfen {
 namespace {
 
@@ -18,7 +20,7 @@ class CadenceTest : public EngineTest {
 
     char begin() {
         const std::int64_t position = engine().cyclePosition();
-        EXPECT_EQ(engine().isNextBreakLong(), position == engine().config().longBreakEvery);
+        EXPECT_EQ(engine().isNextBreakLong(), position == std::abs(engine().config().longBreakEvery));
         engine().beginBreak(now());
         return engine().currentBreakIsLong() ? 'L' : 's';
     }
@@ -139,14 +141,21 @@ TEST_F(CadenceTest, ARhythmOfOneCountsAsTwo) {
     EXPECT_EQ(kinds(4), "sLsL");
 }
 
-TEST_F(CadenceTest, InTheFastCycleARhythmOfOneOrLessMakesEveryBreakLong) {
+TEST_F(CadenceTest, InTheFastCycleARhythmOfOneOrZeroMakesEveryBreakLong) {
     prefer("debugFastCycle", true);
-    for (const std::int64_t every : {1, 0, -2}) {
+    for (const std::int64_t every : {1, 0}) {
         prefer("longBreakEvery", every);
         create().start();
         EXPECT_EQ(kinds(3), "LLL") << every;
         EXPECT_EQ(engine().cyclePosition(), 1);
     }
+}
+
+TEST_F(CadenceTest, InTheFastCycleARhythmBelowZeroCountsAsIfItWereAbove) {
+    prefer("debugFastCycle", true);
+    prefer("longBreakEvery", -3);
+    create().start();
+    EXPECT_EQ(kinds(6), "ssLssL");
 }
 
 } // namespace

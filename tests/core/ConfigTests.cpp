@@ -66,10 +66,10 @@ TEST(Config, IsFixedInTheFastCycle) {
     EXPECT_EQ(BreakEngineConfig::fromDefaults(preferences), config(10, 5, 8, 4, 3, 60));
 }
 
-TEST(Config, LongBreakEveryOfTheFastCycleHasOnlyTheFloorOfOne) {
+TEST(Config, LongBreakEveryOfTheFastCycleIsAsItIsStoredButNeverZero) {
     FakePreferences preferences;
     preferences.set("debugFastCycle", true);
-    const std::pair<std::int64_t, std::int64_t> rows[] = {{7, 7}, {2, 2}, {1, 1}, {0, 1}, {-3, 1}};
+    const std::pair<std::int64_t, std::int64_t> rows[] = {{7, 7}, {2, 2}, {1, 1}, {0, 1}, {-3, -3}};
     for (const auto& [stored, effective] : rows) {
         preferences.set("longBreakEvery", stored);
         EXPECT_EQ(BreakEngineConfig::fromDefaults(preferences).longBreakEvery, effective) << stored;

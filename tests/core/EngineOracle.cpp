@@ -3,6 +3,7 @@
 #include "core/IdleMode.hpp"
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace kestrelfen {
 
@@ -124,7 +125,7 @@ std::string EngineOracle::afterStart() {
 
 std::string EngineOracle::afterBeginBreak() {
     const BreakEngineConfig& config = engine().config();
-    const bool isLong = engine().cyclePosition() == config.longBreakEvery;
+    const bool isLong = engine().cyclePosition() == std::abs(config.longBreakEvery);
     dismissed_ = false;
     breakStartedAt_ = harness_.now();
     return stateText(

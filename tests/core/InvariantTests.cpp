@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdlib>
 
 namespace kestrelfen {
 namespace {
@@ -47,8 +48,8 @@ void expectReadOuts(const BreakEngine& engine) {
     EXPECT_LE(engine.phaseProgress(), 1.0);
     EXPECT_GE(engine.elapsedInCurrentBreak(), 0.0);
     EXPECT_GE(engine.cyclePosition(), 1);
-    EXPECT_LE(engine.cyclePosition(), engine.config().longBreakEvery);
-    EXPECT_EQ(engine.isNextBreakLong(), engine.cyclePosition() == engine.config().longBreakEvery);
+    EXPECT_LE(engine.cyclePosition(), std::abs(engine.config().longBreakEvery));
+    EXPECT_EQ(engine.isNextBreakLong(), engine.cyclePosition() == std::abs(engine.config().longBreakEvery));
     const std::string text = engine.menuBarText();
     if (engine.state().is(BreakState::Case::idle)) {
         EXPECT_EQ(text, "--:--");

@@ -52,7 +52,7 @@ BreakOverlayModel::BreakOverlayModel(BreakEngine& engine, const Platform& platfo
 }
 
 int BreakOverlayModel::cadenceDots() const {
-    return static_cast<int>(std::min(content_.cadenceDots.value_or(0), mostDots));
+    return static_cast<int>(std::clamp<std::int64_t>(content_.cadenceDots.value_or(0), 0, mostDots));
 }
 
 void BreakOverlayModel::press(int key) {
