@@ -32,7 +32,7 @@ PREFERENCES = [
     ("workIntervalSeconds", "double", (60, 300, 900.5, 1200)),
     ("breakDurationSeconds", "double", (5, 20, 60, 59.9)),
     ("longBreakDurationSeconds", "double", (65, 300)),
-    ("longBreakEvery", "int", (1, 2, 3, 4)),
+    ("longBreakEvery", "int", (1, 2, 3, 4, 0, -3)),
     ("preBreakWarningLeadSeconds", "double", (0, 10, 55, 2000)),
     ("snoozeDurationSeconds", "double", (60, 300)),
     ("allowEndBreakEarly", "bool", ("true", "false")),

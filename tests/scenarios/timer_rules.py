@@ -86,7 +86,7 @@ class Judge:
                     "timeUntilNextBreak", "breakRemaining"):
             hold(engine[key] >= 0, key + " is not negative")
         hold(0 <= engine["phaseProgress"] <= 1, "progress lies within 0 and 1")
-        every = engine["config"]["longBreakEvery"]
+        every = abs(engine["config"]["longBreakEvery"])
         hold(1 <= engine["cyclePosition"] <= every, "the position lies within the cycle")
         hold(engine["isNextBreakLong"] == (engine["cyclePosition"] == every), "the last of a cycle is long")
         if state in ("working", "preBreakWarning"):
