@@ -1,5 +1,6 @@
 # shellcheck shell=bash disable=SC2034
-# What has to be installed, and installing it. Debian and Ubuntu only; elsewhere the packages are named.
+# What has to be installed, and installing it. Debian and Ubuntu only; elsewhere the packages are named
+# where something lacks.
 
 packages_to_build=(
     g++ cmake ninja-build pkg-config gettext qt6-base-dev qt6-declarative-dev
@@ -12,7 +13,7 @@ packages_to_build=(
 # qt6-wayland is for Wayland desktops without an X server.
 packages_to_start=(fonts-inter fonts-jetbrains-mono tzdata qt6-wayland)
 packages_to_reach_a_display=(x11-utils)
-# dbus-x11 is there for dunst, which would bring systemd's user session else.
+# dbus-x11 is there for dunst, which would otherwise bring systemd's user session.
 packages_for_a_desktop=(xvfb openbox tint2 dunst dbus dbus-x11 imagemagick x11-utils xdotool)
 packages_to_test=(
     libgtest-dev libgmock-dev libbenchmark-dev clang-format

@@ -5,15 +5,18 @@
 session_pids=()
 session_folder=""
 
-# Prints why the program cannot be shown where the environment says; nothing when it can. It needs X11; a Wayland
-# desktop's own X server does.
+# Prints why the program cannot be shown where the environment says; nothing when it can.
 display_trouble() {
     if [ -n "${QT_QPA_PLATFORM:-}" ] && [ "$QT_QPA_PLATFORM" != xcb ]; then
         return
+    elif [ -n "${DISPLAY:-}" ] && x11_is_reachable; then
+        return
+    elif [ -n "${WAYLAND_DISPLAY:-}" ] && wayland_is_reachable; then
+        return
     elif [ -n "${DISPLAY:-}" ]; then
-        x11_is_reachable || echo "nothing answers at DISPLAY=$DISPLAY"
+        echo "nothing answers at DISPLAY=$DISPLAY"
     elif [ -n "${WAYLAND_DISPLAY:-}" ]; then
-        echo "this Wayland desktop has no X server (DISPLAY is not set)"
+        echo "nothing answers at WAYLAND_DISPLAY=$WAYLAND_DISPLAY"
     else
         echo "neither DISPLAY nor WAYLAND_DISPLAY is set"
     fi
@@ -27,6 +30,13 @@ x11_is_reachable() {
     fi
     local number=${DISPLAY##*:}
     [ "${DISPLAY%%:*}" != "" ] || [ -S "/tmp/.X11-unix/X${number%%.*}" ]
+}
+
+wayland_is_reachable() {
+    case $WAYLAND_DISPLAY in
+    /*) [ -S "$WAYLAND_DISPLAY" ] ;;
+    *) [ -S "${XDG_RUNTIME_DIR:-}/$WAYLAND_DISPLAY" ] ;;
+    esac
 }
 
 # start_in_session NAME COMMAND…: its output goes into the session's folder.

@@ -27,6 +27,15 @@ std::string fixed(double number, int decimals) {
     return {text.begin(), end};
 }
 
+/// Hours whole or to a tenth; the decimal sign is the language's.
+std::string hoursLabel(double hours) {
+    if (hours == std::floor(hours)) {
+        return translated("%1h", {fixed(hours, 0)});
+    }
+    const std::string tenths = fixed(hours, 1);
+    return translated("%1.%2h", {tenths.substr(0, tenths.size() - 2), tenths.substr(tenths.size() - 1)});
+}
+
 std::string rounded(double number) {
     constexpr double withoutMinusZero = 0.0;
     return fixed(std::round(number) + withoutMinusZero, 0);
@@ -66,7 +75,7 @@ std::string_view keptTint(std::optional<double> share, bool isToday) {
 std::string targetLabel(double seconds) {
     const double hours = seconds / secondsPerHour;
     if (hours >= 1) {
-        return translated("%1h", {fixed(hours, hours == std::floor(hours) ? 0 : 1)});
+        return hoursLabel(hours);
     }
     return translated("%1m", {rounded(seconds / minute)});
 }

@@ -206,7 +206,7 @@ class TranslationTests(MainWindowTest):
         self.program.logs("work ")
         self.program.second_start()
         self.wait_for_popover()
-        self.click("Pause jetzt")
+        self.click("Jetzt Pause")
         self.wait_for_overlays()
         for text in ("Schau in die Ferne", "Pause überspringen"):
             self.wait_for(text)

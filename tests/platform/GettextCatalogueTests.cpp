@@ -22,6 +22,10 @@ TEST_F(GettextCatalogueTest, TellsATextInTheLanguageOfTheEnvironment) {
     EXPECT_EQ(catalogue_.text("Paused"), "Angehalten");
 }
 
+TEST_F(GettextCatalogueTest, SetsTenthsOffAsTheLanguageDoes) {
+    EXPECT_EQ(catalogue_.text("%1.%2h"), "%1,%2\u00A0h");
+}
+
 TEST_F(GettextCatalogueTest, LeavesATextThatItLacks) {
     EXPECT_EQ(catalogue_.text("nobody says this"), "nobody says this");
     EXPECT_EQ(catalogue_.counted(2, "one thing", "%1 things"), "%1 things");

@@ -1,3 +1,4 @@
+#include "base/Translated.hpp"
 #include "screentime/WeekWords.hpp"
 
 #include <gtest/gtest.h>
@@ -39,6 +40,26 @@ TEST(WeekWords, TargetLabel) {
     EXPECT_EQ(targetLabel(-10), "0m");
     EXPECT_EQ(targetLabel(-60), "-1m");
     EXPECT_EQ(targetLabel(3.6e23), "100000000000000000000h");
+}
+
+/// A language that sets tenths off by a comma.
+class CommaCatalogue : public Catalogue {
+  public:
+    std::string text(std::string_view original) const override {
+        return original == "%1.%2h" ? "%1,%2 h" : std::string(original);
+    }
+    std::string counted(std::int64_t, std::string_view, std::string_view many) const override {
+        return std::string(many);
+    }
+};
+
+TEST(WeekWords, TenthsOfAnHourHaveTheSignOfTheLanguage) {
+    const CommaCatalogue catalogue;
+    useCatalogue(&catalogue);
+    EXPECT_EQ(targetLabel(5'400), "1,5 h");
+    EXPECT_EQ(targetLabel(3'601), "1,0 h");
+    EXPECT_EQ(targetLabel(3'600), "1h");
+    useCatalogue(nullptr);
 }
 
 TEST(WeekWords, AxisLabel) {
