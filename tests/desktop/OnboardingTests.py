@@ -3,7 +3,7 @@
 import unittest
 
 from scaffold import DesktopTest, until
-from scaffold.keyboard import BUTTON, CHOICE, STEPPER, SWITCH, Keyboard, in_reading_order
+from scaffold.keyboard import BUTTON, CHOICE, STEPPER, SWITCH, Keyboard
 from scaffold.program import QUICK
 from scaffold.windows import MAIN
 
@@ -30,7 +30,7 @@ class OnboardingTests(DesktopTest):
         until(lambda: self.keyboard.control(START, BUTTON), "the second page")
 
     def stops(self):
-        return [each.told for each in in_reading_order(each for each in self.keyboard.controls() if each.is_stop)]
+        return [each.told for each in self.keyboard.read() if each.is_stop]
 
     def walk(self, key, count):
         told, stop = [], None

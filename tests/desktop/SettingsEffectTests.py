@@ -21,7 +21,7 @@ class SettingsEffectTests(SettingsTest):
 
     def pick(self, program, title, label):
         """That pill in the row of that title: the one nearest below the row's top."""
-        row = until(lambda: self.tree.control(program.pid, title, "label"), title)
+        row = self.place_of(program, title, "label")
         pills = [each for each in self.keyboard.controls() if each.told == (label, CHOICE)]
         frame = min(pills, key=lambda each: abs(each.middle - row[1])).frame
         self.hands.click((frame[0] + frame[2] // 2, frame[1] + frame[3] // 2))
@@ -33,7 +33,7 @@ class SettingsEffectTests(SettingsTest):
         self.click_button(program, SKIP)
         self.wait_for_no_overlay()
         self.show(program, "Enforcement")
-        self.click(program, "Hardcore", CHOICE)
+        self.click_control(program, "Hardcore", CHOICE)
         self.wait_until_told(program, "No way out")
         self.wait_for_preference(program, "enforcementLevel", "hardcore")
         self.break_now(program)
@@ -43,7 +43,7 @@ class SettingsEffectTests(SettingsTest):
     def test_skip_button_that_is_switched_off_is_not_there(self):
         program = self.start_with_settings()
         self.show(program, "Enforcement")
-        self.click(program, "Show the skip button on the break screen", SWITCH)
+        self.click_control(program, "Show the skip button on the break screen", SWITCH)
         self.wait_for_preference(program, "showSkipButton", False)
         self.break_now(program)
         self.wait_until_told(program, SNOOZE)

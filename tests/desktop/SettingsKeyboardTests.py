@@ -4,7 +4,7 @@ import unittest
 from pathlib import Path
 
 from scaffold import until
-from scaffold.keyboard import BUTTON, CHOICE, STEPPER, SWITCH, TAB, in_reading_order
+from scaffold.keyboard import BUTTON, CHOICE, STEPPER, SWITCH, TAB
 from scaffold.settings import LONG, PANES, SettingsTest
 
 CONFIGURE = "Configure Deep Focus Apps"
@@ -35,8 +35,7 @@ class SettingsKeyboardTests(SettingsTest):
 
     def stops_of_pane(self):
         """Those to the right of the rail, as they are read."""
-        controls = [each for each in self.keyboard.controls() if each.role != TAB and each.is_stop]
-        return [each.told for each in in_reading_order(controls)]
+        return [each.told for each in self.keyboard.read() if each.role != TAB and each.is_stop]
 
     def walk(self, key):
         """Where a key goes from the rail until it is there again; all of it in sight."""
@@ -118,7 +117,7 @@ class SettingsKeyboardTests(SettingsTest):
         self.keyboard.go_to(CONFIGURE, BUTTON)
         self.hands.press("space")
         self.keyboard.wait_for("Done", BUTTON)
-        stops = [each.told for each in in_reading_order(self.keyboard.controls())]
+        stops = [each.told for each in self.keyboard.read()]
         self.assertEqual(stops, [(name, BUTTON) for name in ("Remove one", "Remove two", "Restore Defaults", "Done")])
         self.assertEqual([self.keyboard.press("Tab").told for _ in stops], stops)
         self.assertEqual([self.keyboard.press("shift+Tab").told for _ in stops], [*stops[-2::-1], stops[-1]])

@@ -74,8 +74,7 @@ class SettingsValueTests(SettingsTest):
 
     def test_plus_that_is_held_goes_on_and_ends_at_the_end(self):
         program = self.start_with_settings(LIGHT | {"longBreakEvery": 2})
-        point = until(lambda: self.tree.button(program.pid, "Increase Long break every"), "the plus")
-        self.hands.move_to(point)
+        self.hands.move_to(self.place_of(program, "Increase Long break every"))
         self.hands.hold()
         try:
             until(lambda: program.preferences["longBreakEvery"] == 3, "the first step is at once", 1.0)
@@ -86,8 +85,7 @@ class SettingsValueTests(SettingsTest):
 
     def test_plus_that_is_left_or_let_go_stops(self):
         program = self.start_with_settings(LIGHT | {"workIntervalSeconds": 60.0, "preBreakWarningLeadSeconds": 0.0})
-        point = until(lambda: self.tree.button(program.pid, "Increase Work interval"), "the plus")
-        self.hands.move_to(point)
+        self.hands.move_to(self.place_of(program, "Increase Work interval"))
         self.hands.hold()
         until(lambda: program.preferences["workIntervalSeconds"] >= 240.0, "it repeats", 5.0)
         self.hands.let_go()

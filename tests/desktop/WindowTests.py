@@ -14,9 +14,6 @@ COMPOSER = "Add a task — return to save, escape to cancel"
 
 
 class WindowTests(DesktopTest):
-    def click(self, program, name, role):
-        self.hands.click(until(lambda: self.tree.control(program.pid, name, role), f"the {role} {name!r}"))
-
     def go(self, program, item):
         """Through the footer of the popover."""
         program.second_start()
@@ -37,7 +34,7 @@ class WindowTests(DesktopTest):
         self.wait_for_main_window()
         self.assertEqual(program.count("work "), 0)
         self.click_button(program, "Set Up My Cadence")
-        self.click(program, "Strict", CARD)
+        self.click_control(program, "Strict", CARD)
         self.click_button(program, "Start the First Interval")
         program.logs("work 15 min")
         until(lambda: program.preferences.get("hasCompletedOnboarding"), "the welcome is over")
@@ -69,7 +66,7 @@ class WindowTests(DesktopTest):
         program.logs("work ")
         self.go(program, "Tasks")
         self.wait_for_main_window()
-        self.hands.click(until(lambda: self.tree.control(program.pid, COMPOSER, FIELD), "the composer"))
+        self.click_control(program, COMPOSER, FIELD)
         self.hands.type("Write it")
         self.hands.press("Return")
         self.wait_until_told(program, "Write it")
@@ -88,8 +85,8 @@ class WindowTests(DesktopTest):
         program.logs("work ")
         self.go(program, "Settings")
         window = until(self.windows.settings, "the settings", 10.0)
-        self.click(program, "Appearance", TAB)
-        self.click(program, "Dark", CARD)
+        self.click_control(program, "Appearance", TAB)
+        self.click_control(program, "Dark", CARD)
         until(lambda: program.preferences["appearance"] == "dark", "the choice is written")
         until(lambda: self.desktop.shoot(window.frame).brightness() < 80, "dark settings", 5.0)
 

@@ -17,6 +17,7 @@ from pathlib import Path
 from scaffold import Desktop, three_months, until
 from scaffold.desktop import LEFT
 from scaffold.program import BINARY, QUICK, Program
+from scaffold.waiting import until_steady
 
 MARGIN = 24
 LONG_WORK = {"workIntervalSeconds": 754.0}
@@ -77,7 +78,7 @@ class Studio:
         return until(self.desktop.windows.popover, "the popover")
 
     def click(self, program, name, role="push button"):
-        point = until(lambda: self.tree.control(program.pid, name, role), name)
+        point = until_steady(lambda: self.tree.control(program.pid, name, role), name)
         # The tree counts in the pixels of the program, not in those of the display.
         self.desktop.hands.click(tuple(self.scale * number for number in point))
 

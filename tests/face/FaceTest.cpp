@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QGuiApplication>
 #include <QTest>
+#include <QtQuickTest/quicktest.h>
 
 #include <algorithm>
 
@@ -80,6 +81,7 @@ std::vector<QQuickItem*> FaceTest::itemsIn(QQuickWindow* window) {
 }
 
 QPoint FaceTest::centreOf(QQuickWindow* window, const QString& spokenLabel) {
+    EXPECT_TRUE(QQuickTest::qWaitForPolish(window)) << "nothing is laid out";
     QPoint centre(-1, -1);
     walk(window->contentItem(), [&](const QQuickItem* item) {
         if (item->property("spokenLabel").toString() == spokenLabel) {

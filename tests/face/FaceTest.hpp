@@ -78,6 +78,7 @@ class FaceTest : public testing::Test {
     /// Everything that is shown in `window`.
     static std::vector<QQuickItem*> itemsIn(QQuickWindow* window);
 
+    /// Where it is once everything has been laid out, which happens with the next frame.
     static QPoint centreOf(QQuickWindow* window, const QString& spokenLabel);
     void click(QQuickWindow* window, const QString& spokenLabel);
 

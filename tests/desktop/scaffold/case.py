@@ -3,10 +3,11 @@
 import time
 import unittest
 
+from scaffold.accessibility import BUTTON
 from scaffold.desktop import LEFT, RIGHT, Desktop
 from scaffold.program import QUICK, Program
 from scaffold.terminal import Terminal
-from scaffold.waiting import until
+from scaffold.waiting import until, until_steady
 
 
 class DesktopTest(unittest.TestCase):
@@ -65,9 +66,14 @@ class DesktopTest(unittest.TestCase):
     def wait_for_no_popover(self):
         until(lambda: not self.windows.popover(), "no popover", 10.0)
 
+    def place_of(self, program, name, role=BUTTON):
+        return until_steady(lambda: self.tree.control(program.pid, name, role), f"the {role} {name!r}")
+
+    def click_control(self, program, name, role, button=1):
+        self.hands.click(self.place_of(program, name, role), button)
+
     def click_button(self, program, name, button=1):
-        point = until(lambda: self.tree.button(program.pid, name), f"the button {name!r}")
-        self.hands.click(point, button)
+        self.click_control(program, name, BUTTON, button)
 
     def wait_until_told(self, program, name, seconds=15.0):
         until(lambda: name in self.tree.told(program.pid), f"the tree tells {name!r}", seconds)

@@ -4,7 +4,7 @@ from typing import NamedTuple
 
 import dbus
 
-from scaffold.waiting import until
+from scaffold.waiting import until, until_steady
 
 CHECKED, FOCUSED, SELECTED = 1 << 4, 1 << 12, 1 << 23
 STEPPER = "spin box"
@@ -100,6 +100,10 @@ class Keyboard:
         except dbus.DBusException:
             return []
         return [control for control in found if control.frame[2] > 0]
+
+    def read(self):
+        """The controls in reading order, once each has its place."""
+        return in_reading_order(until_steady(self.controls, f"controls in {self._window_name!r}"))
 
     def focused(self):
         try:

@@ -64,7 +64,7 @@ class MainWindowTest(DesktopTest):
         return until(lambda: next(iter(self.windows.main_windows()), None), "the main window")
 
     def click(self, name, role=BUTTON, button=1):
-        self.hands.click(until(lambda: self.tree.control(self.program.pid, name, role), f"the {role} {name!r}"), button)
+        self.click_control(self.program, name, role, button)
 
     def told(self, role=None):
         return self.tree.told(self.program.pid, role)

@@ -27,11 +27,8 @@ class SettingsTest(DesktopTest):
         until(lambda: self.windows.active() == int(self.window.id, 16), "the settings have the keyboard")
         self.keyboard = Keyboard(self.tree, program.pid, SETTINGS, self.hands)
 
-    def click(self, program, name, role):
-        self.hands.click(until(lambda: self.tree.control(program.pid, name, role), f"the {role} {name!r}"))
-
     def show(self, program, pane):
-        self.click(program, pane, TAB)
+        self.click_control(program, pane, TAB)
         self.wait_until_shown(pane)
 
     def wait_until_shown(self, pane):

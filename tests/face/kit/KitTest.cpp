@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QQmlComponent>
 #include <QtQml/QQmlExtensionPlugin>
+#include <QtQuickTest/quicktest.h>
 
 #include <cstdlib>
 
@@ -85,6 +86,7 @@ QColor KitTest::over(const QColor& top, const QColor& below) {
 }
 
 void KitTest::click(const QQuickItem* item) {
+    EXPECT_TRUE(QQuickTest::qWaitForPolish(&window_)) << "nothing is laid out";
     const QPointF centre = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
     QTest::mouseClick(&window_, Qt::LeftButton, Qt::NoModifier, centre.toPoint());
     QCoreApplication::processEvents();

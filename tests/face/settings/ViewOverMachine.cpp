@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QTest>
 #include <QtQml/QQmlExtensionPlugin>
+#include <QtQuickTest/quicktest.h>
 
 Q_IMPORT_QML_PLUGIN(KestrelfenPlugin)
 
@@ -79,6 +80,7 @@ QQuickItem* ViewOverMachine::named(const QString& spokenLabel) {
 }
 
 void ViewOverMachine::click(const QString& spokenLabel) {
+    EXPECT_TRUE(QQuickTest::qWaitForPolish(&view_)) << "nothing is laid out";
     if (const QQuickItem* const item = named(spokenLabel)) {
         const QPointF centre = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
         QTest::mouseClick(&view_, Qt::LeftButton, Qt::NoModifier, centre.toPoint());
