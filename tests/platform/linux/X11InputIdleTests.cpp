@@ -70,7 +70,7 @@ TEST(X11InputIdle, RarelySleepsForTheAnswer) {
     FakeLog log;
     X11InputIdle idle(log);
     long fewest = questions;
-    for (int round = 0; round < rounds && fewest > questions / 4; ++round) {
+    for (int round = 0; round < rounds && fewest > 0; ++round) {
         long switches = 0;
         for (int question = 0; question < questions; ++question) {
             std::this_thread::sleep_for(5ms);
@@ -78,7 +78,7 @@ TEST(X11InputIdle, RarelySleepsForTheAnswer) {
         }
         fewest = std::min(fewest, switches);
     }
-    EXPECT_LE(fewest, questions / 4);
+    EXPECT_EQ(fewest, 0);
 }
 
 TEST(X11InputIdle, IsAbsentOnceTheServerHasGone) {
