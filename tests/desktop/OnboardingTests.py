@@ -2,7 +2,7 @@
 
 import unittest
 
-from scaffold import DesktopTest, until
+from scaffold import DesktopTest, until, until_steady
 from scaffold.keyboard import BUTTON, CHOICE, STEPPER, SWITCH, Keyboard
 from scaffold.program import QUICK
 from scaffold.windows import MAIN
@@ -18,7 +18,7 @@ CYCLE = "Long break every"
 class OnboardingTests(DesktopTest):
     def first_run(self, preferences=FIRST_RUN, **options):
         program = self.start(preferences, **options)
-        self.window = until(lambda: next(iter(self.windows.main_windows()), None), "the welcome", 10.0)
+        self.window = until_steady(self.windows.main_window, "the welcome", 10.0)
         until(lambda: self.windows.active() == int(self.window.id, 16), "the welcome has the keyboard")
         self.keyboard = Keyboard(self.tree, program.pid, MAIN, self.hands)
         until(lambda: self.keyboard.control(SET_UP, BUTTON), "the first page")

@@ -2,7 +2,7 @@
 
 import unittest
 
-from scaffold import DesktopTest, until
+from scaffold import DesktopTest, until, until_steady
 from scaffold.program import QUICK
 
 LONG = QUICK | {"workIntervalSeconds": 600.0}
@@ -22,7 +22,7 @@ class WindowTests(DesktopTest):
         self.wait_for_no_popover()
 
     def wait_for_main_window(self):
-        return until(lambda: next(iter(self.windows.main_windows()), None), "the main window", 10.0)
+        return until_steady(self.windows.main_window, "the main window", 10.0)
 
     def close_window(self, window):
         self.hands.click(window.centre)
@@ -76,7 +76,7 @@ class WindowTests(DesktopTest):
         program = self.start(LONG)
         program.logs("work ")
         self.go(program, "Settings")
-        until(self.windows.settings, "the settings", 10.0)
+        until_steady(self.windows.settings, "the settings", 10.0)
         self.click_button(program, "Increase Short break")
         until(lambda: program.preferences["breakDurationSeconds"] == 25.0, "a longer break")
 
@@ -84,7 +84,7 @@ class WindowTests(DesktopTest):
         program = self.start(LONG | {"appearance": "light"})
         program.logs("work ")
         self.go(program, "Settings")
-        window = until(self.windows.settings, "the settings", 10.0)
+        window = until_steady(self.windows.settings, "the settings", 10.0)
         self.click_control(program, "Appearance", TAB)
         self.click_control(program, "Dark", CARD)
         until(lambda: program.preferences["appearance"] == "dark", "the choice is written")

@@ -14,10 +14,9 @@ import tempfile
 import time
 from pathlib import Path
 
-from scaffold import Desktop, three_months, until
+from scaffold import Desktop, three_months, until, until_steady
 from scaffold.desktop import LEFT
 from scaffold.program import BINARY, QUICK, Program
-from scaffold.waiting import until_steady
 
 MARGIN = 24
 LONG_WORK = {"workIntervalSeconds": 754.0}
@@ -142,7 +141,7 @@ def main_window(studio):
     program = studio.start(home=home, zone=zone, **LONG_WORK)
     studio.open_popover(program)
     studio.click(program, "Screen Time")
-    window = until(lambda: next(iter(studio.desktop.windows.main_windows()), None), "the main window")
+    window = until(studio.desktop.windows.main_window, "the main window")
     for name, size in SIZES.items():
         studio.resize(window, size)
         for tab in ("Screen Time", "Breaks", "Tasks"):

@@ -2,6 +2,6 @@
 
 from scaffold.case import DesktopTest
 from scaffold.desktop import Desktop
-from scaffold.waiting import until
+from scaffold.waiting import until, until_steady
 
-__all__ = ["Desktop", "DesktopTest", "until"]
+__all__ = ["Desktop", "DesktopTest", "until", "until_steady"]

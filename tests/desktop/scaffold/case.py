@@ -61,7 +61,7 @@ class DesktopTest(unittest.TestCase):
         until(lambda: not self.windows.card(), "no warning card", 10.0)
 
     def wait_for_popover(self):
-        return until(self.windows.popover, "the popover", 10.0)
+        return until_steady(self.windows.popover, "the popover", 10.0)
 
     def wait_for_no_popover(self):
         until(lambda: not self.windows.popover(), "no popover", 10.0)

@@ -10,7 +10,7 @@ import dbus
 from scaffold import three_months
 from scaffold.case import DesktopTest
 from scaffold.program import BINARY, QUICK
-from scaffold.waiting import until
+from scaffold.waiting import until, until_steady
 
 LONG = QUICK | {"workIntervalSeconds": 3000.0}
 ITEM, BUTTON, PILL, LABEL = "list item", "push button", "radio button", "label"
@@ -61,7 +61,7 @@ class MainWindowTest(DesktopTest):
         self.wait_for_popover()
         self.click_button(self.program, tab)
         self.wait_for_no_popover()
-        return until(lambda: next(iter(self.windows.main_windows()), None), "the main window")
+        return until_steady(self.windows.main_window, "the main window")
 
     def click(self, name, role=BUTTON, button=1):
         self.click_control(self.program, name, role, button)

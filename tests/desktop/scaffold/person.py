@@ -9,7 +9,6 @@ import dbus
 
 from scaffold.keyboard import CONTROLS, FOCUSED
 from scaffold.services import Services
-from scaffold.windows import MAIN, SETTINGS
 
 QUIT, DELETE = "Quit Kestrelfen", "Delete Everything"
 #: They would end what is watched, or the history that is reconciled.

@@ -3,7 +3,7 @@
 from scaffold.case import DesktopTest
 from scaffold.keyboard import TAB, Keyboard
 from scaffold.program import QUICK
-from scaffold.waiting import until
+from scaffold.waiting import until, until_steady
 from scaffold.windows import SETTINGS
 
 LONG = QUICK | {"workIntervalSeconds": 600.0, "preBreakWarningLeadSeconds": 10.0}
@@ -23,7 +23,7 @@ class SettingsTest(DesktopTest):
         self.wait_for_popover()
         self.click_button(program, "Settings")
         self.wait_for_no_popover()
-        self.window = until(self.windows.settings, "the settings", 10.0)
+        self.window = until_steady(self.windows.settings, "the settings", 10.0)
         until(lambda: self.windows.active() == int(self.window.id, 16), "the settings have the keyboard")
         self.keyboard = Keyboard(self.tree, program.pid, SETTINGS, self.hands)
 

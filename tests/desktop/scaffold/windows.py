@@ -80,6 +80,9 @@ class Windows:
         """The tray's item bears the same name, but is far smaller."""
         return [window for window in self.named(MAIN) if window.width > 200]
 
+    def main_window(self):
+        return next(iter(self.main_windows()), None)
+
     def settings(self):
         return next(iter(self.named(SETTINGS)), None)
 
