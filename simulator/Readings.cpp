@@ -28,6 +28,7 @@ Json reading(Simulation& simulation, const std::string& what, Arguments& argumen
 
 FormList readingForms() {
     std::vector<FormList> lists;
+    lists.reserve(std::size(families));
     for (const auto readers : families) {
         lists.push_back(formsOfAll(readers()));
     }

@@ -85,6 +85,7 @@ std::span<const Scenario::NamedOrder> Scenario::orders() {
 
 FormList Scenario::forms() {
     std::vector<FormList> lists;
+    lists.reserve(std::size(families) + 1);
     for (const auto commands : families) {
         lists.push_back(formsOfAll(commands()));
     }

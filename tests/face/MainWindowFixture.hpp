@@ -29,11 +29,6 @@ class MainWindowFixture : public FaceTest {
         return view_.get();
     }
 
-    ~MainWindowFixture() override {
-        view_.reset();
-        model_.reset();
-    }
-
     void showTab(MainTab tab) {
         delegate_.router().setMainTab(tab);
         settle();

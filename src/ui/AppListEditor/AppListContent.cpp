@@ -9,6 +9,7 @@ namespace {
 std::vector<AppListContent::Row> rowsOf(const std::vector<AppListEditor::App>& apps,
                                         std::string_view spokenAction) {
     std::vector<AppListContent::Row> rows;
+    rows.reserve(apps.size());
     for (const auto& app : apps) {
         rows.push_back({app.bundleID, app.name, translated(spokenAction, {app.name})});
     }

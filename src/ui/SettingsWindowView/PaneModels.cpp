@@ -165,6 +165,7 @@ KeyedListModel::Row keyedRow(const PaneRow& row) {
 
 std::vector<KeyedListModel::Row> keyedRows(const std::vector<PaneRow>& rows) {
     std::vector<KeyedListModel::Row> keyed;
+    keyed.reserve(rows.size());
     for (const PaneRow& row : rows) {
         keyed.push_back(keyedRow(row));
     }

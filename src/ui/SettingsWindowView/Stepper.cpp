@@ -23,6 +23,7 @@ const Stepper* Stepper::find(std::string_view key) {
 
 std::vector<std::string_view> Stepper::keys() {
     std::vector<std::string_view> keys;
+    keys.reserve(steppers.size());
     for (const Stepper* const stepper : steppers) {
         keys.push_back(stepper->key_);
     }

@@ -34,10 +34,6 @@ KitTest::KitTest() {
     window_.setColor(backdrop);
 }
 
-KitTest::~KitTest() {
-    root_.reset();
-}
-
 std::unique_ptr<QObject> KitTest::make(const QString& qml) {
     QQmlComponent component(&engine_);
     component.setData(("import QtQuick\nimport Kestrelfen\n" + qml).toUtf8(),

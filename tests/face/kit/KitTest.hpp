@@ -25,7 +25,6 @@ class KitTest : public testing::Test {
     static constexpr QColor backdrop{40, 90, 160};
 
     KitTest();
-    ~KitTest() override;
 
     /// Shows an item written in QML. `root` is the item itself.
     QQuickItem* show(const QString& qml);
