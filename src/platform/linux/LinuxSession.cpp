@@ -2,11 +2,13 @@
 
 #include "platform/linux/MutterInputIdle.hpp"
 #include "platform/linux/WaylandApplications.hpp"
+#include "platform/linux/WaylandCompositor.hpp"
 #include "platform/linux/WaylandDisplays.hpp"
 #include "platform/linux/WaylandEscapeKey.hpp"
 #include "platform/linux/WaylandInputIdle.hpp"
 #include "platform/linux/WaylandWindowList.hpp"
 #include "platform/linux/X11Applications.hpp"
+#include "platform/linux/X11Compositor.hpp"
 #include "platform/linux/X11EscapeKey.hpp"
 #include "platform/linux/X11InputIdle.hpp"
 #include "platform/linux/X11WindowList.hpp"
@@ -19,6 +21,10 @@ namespace {
 
 bool mayBeWayland() {
     return qgetenv("XDG_SESSION_TYPE") != "x11" && !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+}
+
+bool hasXServer() {
+    return !qEnvironmentVariableIsEmpty("DISPLAY");
 }
 
 } // namespace
@@ -56,7 +62,7 @@ LinuxSession::Windows LinuxSession::makeWindows() {
         return {std::make_unique<WaylandApplications>(*toplevels_),
                 std::make_unique<WaylandWindowList>(*toplevels_)};
     }
-    if (qEnvironmentVariableIsEmpty("DISPLAY")) {
+    if (!hasXServer()) {
         return {};
     }
     x11Windows_.emplace(needs_.catalogue);
@@ -73,8 +79,7 @@ OverlayReach LinuxSession::overlayReach(bool canUseLayers) const {
     if (!wayland_ || (layers_ && canUseLayers)) {
         return OverlayReach::everywhere;
     }
-    return qEnvironmentVariableIsEmpty("DISPLAY") ? OverlayReach::ordinaryWindows
-                                                  : OverlayReach::throughXServer;
+    return hasXServer() ? OverlayReach::throughXServer : OverlayReach::ordinaryWindows;
 }
 
 std::unique_ptr<Displays> LinuxSession::makeDisplays() {
@@ -86,6 +91,13 @@ std::unique_ptr<EscapeKey> LinuxSession::makeEscapeKey() {
         return std::make_unique<WaylandEscapeKey>(*layers_);
     }
     return std::make_unique<X11EscapeKey>(needs_.log);
+}
+
+std::unique_ptr<Compositor> LinuxSession::makeCompositor() const {
+    if (wayland_ && !hasXServer()) {
+        return std::make_unique<WaylandCompositor>();
+    }
+    return std::make_unique<X11Compositor>();
 }
 
 } // namespace kestrelfen

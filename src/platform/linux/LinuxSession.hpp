@@ -8,6 +8,7 @@
 #include "platform/linux/WaylandToplevels.hpp"
 #include "platform/linux/X11WindowWatch.hpp"
 #include "platform/ports/Applications.hpp"
+#include "platform/ports/Compositor.hpp"
 #include "platform/ports/Displays.hpp"
 #include "platform/ports/EscapeKey.hpp"
 #include "platform/ports/InputIdle.hpp"
@@ -56,6 +57,9 @@ class LinuxSession {
 
     /// Of the layers, or else of the X server.
     std::unique_ptr<EscapeKey> makeEscapeKey();
+
+    /// Of the X server, where there is one: then the windows are its own.
+    std::unique_ptr<Compositor> makeCompositor() const;
 
   private:
     Needs needs_;

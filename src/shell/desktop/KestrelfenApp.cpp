@@ -86,7 +86,7 @@ class KestrelfenApp::Parts {
   private:
     Texts texts_;
     KestrelfenAppPlatform machine_;
-    QuickOverlayWindows windows_{machine_.ports(), machine_.views, *machine_.escapeKey, machine_.compositor};
+    QuickOverlayWindows windows_{machine_.ports(), machine_.views, *machine_.escapeKey, *machine_.compositor};
     AppDelegate delegate_{machine_.ports(), machine_.storeConfiguration(), windows_};
     QuickSceneWindows scenes_{machine_.views,
                               {[this](QWindow& window) { machine_.activationPolicy.bringForward(window); },
@@ -99,7 +99,7 @@ class KestrelfenApp::Parts {
                            scenes_, [this] { terminate(); }},
                           machine_.ports(),
                           machine_.views,
-                          {machine_.compositor, machine_.panels}};
+                          {*machine_.compositor, machine_.panels}};
     SessionEnd sessionEnd_{machine_.systemLink, [this](const SessionEnd::Done& done) { terminate(done); }};
     bool isTerminating_ = false;
     bool hasEnded_ = false;

@@ -15,7 +15,6 @@
 #include "platform/linux/PortalSaveDialog.hpp"
 #include "platform/linux/ProgramLauncher.hpp"
 #include "platform/linux/PulseAudioProcesses.hpp"
-#include "platform/linux/X11Compositor.hpp"
 #include "platform/linux/X11Panels.hpp"
 #include "platform/ports/LoginItem.hpp"
 #include "platform/ports/PunctualClock.hpp"
@@ -93,7 +92,7 @@ class KestrelfenAppPlatform {
     DBusSingleInstance instance{sessionBus, log};
     DBusNotifier notifier{sessionBus, sessionLink};
     std::unique_ptr<EscapeKey> escapeKey{session.makeEscapeKey()};
-    X11Compositor compositor;
+    std::unique_ptr<Compositor> compositor{session.makeCompositor()};
     X11Panels panels;
     std::unique_ptr<TrayIcon> tray{makeLinuxTrayIcon(sessionBus, log)};
     StatusItem statusItem{*tray};

@@ -3,8 +3,10 @@
 #include "platform/fake/FakeLog.hpp"
 #include "platform/linux/LinuxSession.hpp"
 #include "platform/linux/MutterInputIdle.hpp"
+#include "platform/linux/WaylandCompositor.hpp"
 #include "platform/linux/WaylandInputIdle.hpp"
 #include "platform/linux/X11Applications.hpp"
+#include "platform/linux/X11Compositor.hpp"
 #include "platform/linux/X11InputIdle.hpp"
 
 #include <QElapsedTimer>
@@ -37,6 +39,7 @@ TEST_F(LinuxSessionTest, WithoutACompositorTheXServerTells) {
     EXPECT_NE(windows.list, nullptr);
     EXPECT_EQ(session->overlayReach(true), OverlayReach::everywhere);
     EXPECT_EQ(session->overlayReach(false), OverlayReach::everywhere);
+    EXPECT_TRUE(isA<X11Compositor>(session->makeCompositor()));
 }
 
 TEST_F(LinuxSessionTest, InAnX11SessionTheXServerTells) {
@@ -86,6 +89,16 @@ TEST_F(LinuxSessionTest, NobodyTellsOfWindowsWithoutProtocolAndXServer) {
     EXPECT_EQ(windows.applications, nullptr);
     EXPECT_EQ(windows.list, nullptr);
     EXPECT_EQ(session->overlayReach(true), OverlayReach::ordinaryWindows);
+}
+
+TEST_F(LinuxSessionTest, WindowsOfTheXServerAreBlendedByItsCompositorAndThoseOfWaylandAlways) {
+    FakeCompositor compositor(FakeCompositor::Idle::untold);
+    const FakeCompositor::Answering answering(compositor);
+    EXPECT_TRUE(isA<X11Compositor>(make()->makeCompositor()));
+    const EnvironmentValue display("DISPLAY", std::nullopt);
+    const auto alone = make()->makeCompositor();
+    EXPECT_TRUE(isA<WaylandCompositor>(alone));
+    EXPECT_TRUE(alone->isBlending());
 }
 
 TEST_F(LinuxSessionTest, ACompositorThatTellsOfWindowsIsAsked) {
