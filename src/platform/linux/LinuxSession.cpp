@@ -23,10 +23,6 @@ bool mayBeWayland() {
     return qgetenv("XDG_SESSION_TYPE") != "x11" && !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
 }
 
-bool hasXServer() {
-    return !qEnvironmentVariableIsEmpty("DISPLAY");
-}
-
 } // namespace
 
 LinuxSession::LinuxSession(const Needs& needs) : needs_(needs) {
@@ -62,7 +58,7 @@ LinuxSession::Windows LinuxSession::makeWindows() {
         return {std::make_unique<WaylandApplications>(*toplevels_),
                 std::make_unique<WaylandWindowList>(*toplevels_)};
     }
-    if (!hasXServer()) {
+    if (!hasXServer_) {
         return {};
     }
     x11Windows_.emplace(needs_.catalogue);
@@ -79,7 +75,7 @@ OverlayReach LinuxSession::overlayReach(bool canUseLayers) const {
     if (!wayland_ || (layers_ && canUseLayers)) {
         return OverlayReach::everywhere;
     }
-    return hasXServer() ? OverlayReach::throughXServer : OverlayReach::ordinaryWindows;
+    return hasXServer_ ? OverlayReach::throughXServer : OverlayReach::ordinaryWindows;
 }
 
 std::unique_ptr<Displays> LinuxSession::makeDisplays() {
@@ -94,7 +90,7 @@ std::unique_ptr<EscapeKey> LinuxSession::makeEscapeKey() {
 }
 
 std::unique_ptr<Compositor> LinuxSession::makeCompositor() const {
-    if (wayland_ && !hasXServer()) {
+    if (wayland_ && !hasXServer_) {
         return std::make_unique<WaylandCompositor>();
     }
     return std::make_unique<X11Compositor>();

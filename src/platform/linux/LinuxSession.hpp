@@ -7,6 +7,7 @@
 #include "platform/linux/WaylandOutputs.hpp"
 #include "platform/linux/WaylandToplevels.hpp"
 #include "platform/linux/X11WindowWatch.hpp"
+#include "platform/linux/XConnection.hpp"
 #include "platform/ports/Applications.hpp"
 #include "platform/ports/Compositor.hpp"
 #include "platform/ports/Displays.hpp"
@@ -63,6 +64,8 @@ class LinuxSession {
 
   private:
     Needs needs_;
+    /// One that answers: the toolkit too takes it only then.
+    bool hasXServer_ = !XConnection().isBroken();
     std::optional<WaylandConnection> wayland_;
     std::optional<WaylandToplevels> toplevels_;
     std::optional<X11WindowWatch> x11Windows_;

@@ -91,6 +91,16 @@ TEST_F(LinuxSessionTest, NobodyTellsOfWindowsWithoutProtocolAndXServer) {
     EXPECT_EQ(session->overlayReach(true), OverlayReach::ordinaryWindows);
 }
 
+TEST_F(LinuxSessionTest, AnXServerThatDoesNotAnswerIsNone) {
+    FakeCompositor compositor(FakeCompositor::Idle::untold);
+    const FakeCompositor::Answering answering(compositor);
+    const EnvironmentValue display("DISPLAY", ":4711");
+    const auto session = make();
+    EXPECT_EQ(session->makeWindows().applications, nullptr);
+    EXPECT_EQ(session->overlayReach(true), OverlayReach::ordinaryWindows);
+    EXPECT_TRUE(isA<WaylandCompositor>(session->makeCompositor()));
+}
+
 TEST_F(LinuxSessionTest, WindowsOfTheXServerAreBlendedByItsCompositorAndThoseOfWaylandAlways) {
     FakeCompositor compositor(FakeCompositor::Idle::untold);
     const FakeCompositor::Answering answering(compositor);
